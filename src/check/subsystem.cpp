@@ -1,0 +1,148 @@
+#include "check/subsystem.h"
+
+#include "run/diagnostics.h"
+
+#include <string>
+
+namespace {
+
+// Takes the text behind the last comma off `list`; `more` tells whether another
+// one stands before it.
+std::string_view take_last(std::string_view& list, bool& more) {
+    const std::size_t comma = list.rfind(',');
+    more = comma != std::string_view::npos;
+    const std::string_view item = more ? list.substr(comma + 1) : list;
+    list = more ? list.substr(0, comma) : std::string_view{};
+    return item;
+}
+
+bool is_item(std::string_view text, std::string_view group) {
+    for (bool more = true; more;) {
+        if (take_last(group, more) == text) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// What one walk over the allowed subsystems found out.
+struct Verdict {
+    bool found = false;
+    std::string references; // the items that matched, separated by commas
+};
+
+void accept(std::string_view item, Verdict& verdict) {
+    verdict.found = true;
+    message(1, "\t\t\t--> OK\n");
+    if (!verdict.references.empty()) {
+        verdict.references += ',';
+    }
+    verdict.references += item;
+}
+
+// Looks for an item of the group that the product begins with. The last item is
+// looked at only while nothing has allowed the product yet, and an empty one
+// allows nothing; an empty item before a comma allows everything.
+void check_items(std::string_view group, std::string_view product, Verdict& verdict) {
+    for (auto comma = group.find(','); comma != std::string_view::npos; comma = group.find(',')) {
+        const std::string item(group.substr(0, comma));
+        message(1, "\t\t\tCheck subsystem: '%s' Attached subsystem: '%s'", item.c_str(),
+                product.data());
+        if (product.starts_with(item)) {
+            accept(item, verdict);
+            return;
+        }
+        message(1, "\t\t\t--> Invalid subsystem!\n");
+        group.remove_prefix(comma + 1);
+    }
+    if (verdict.found) {
+        return;
+    }
+    message(1, "\t\tCheck subsystem: '%s' Attached subsystem: '%s'", group.data(), product.data());
+    if (!group.empty() && product.starts_with(group)) {
+        accept(group, verdict);
+    } else {
+        message(1, "\t\t\t--> Invalid subsystem!\n");
+    }
+}
+
+// Judges the storage against one allowed subsystem of its vendor. Returns true
+// when that settles the matter.
+bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_entry& storage,
+                     Verdict& verdict) {
+    message(1, "\n");
+    message(1, "\t\tAttached storage sub-system:\n");
+    message(1, "\t\t\t\t%s\n", storage.vendor_id);
+    message(1, "\t\t\t\t%s\n", storage.product_id);
+    message(1, "\t\t\t\t%s\n", storage.product_version);
+    if (allowed.models[0] == '\0') {
+        verdict.found = true;
+    } else {
+        check_items(allowed.models, storage.product_id, verdict);
+    }
+    if (!verdict.found || verdict.references.empty()) {
+        return false;
+    }
+    if (CheckModelGroupConsistency(allowed.models, verdict.references)) {
+        message(1, "\t\t\tAll reference subsystems appear in the same group: %s\n", allowed.models);
+        return true;
+    }
+    message(1,
+            "\t\t\tAt least one reference subsystem is not member of group: %s\n\tSkip this "
+            "group.\n",
+            allowed.models);
+    return false;
+}
+
+bool blank(const char* text) {
+    return text[std::strspn(text, " ")] == '\0';
+}
+
+void report_invalid(const target_mapping_entry& storage) {
+    message(1, "\n");
+    message(1, "\n\t\tInvaild attached storage sub-system found.\n");
+    message(1, "\t\t\t\t%s\n", storage.vendor_id);
+    message(1, "\t\t\t\t%s\n", storage.product_id);
+    message(1, "\t\t\t\t%s\n", storage.product_version);
+    message(1, "\n");
+}
+
+} // namespace
+
+bool CheckModelGroupConsistency(std::string_view group, std::string_view references) {
+    const std::string group_text(group);
+    message(1, "\tAlready identified reference subsystems: %s  Subsystem group: %s\n",
+            std::string(references).c_str(), group_text.c_str());
+    for (bool more = true; more;) {
+        const std::string reference(take_last(references, more));
+        if (!is_item(reference, group)) {
+            message(1, "\tReference subsystem '%s' not in Group: >%s< => Skip this group.\n",
+                    reference.c_str(), group_text.c_str());
+            return false;
+        }
+        message(1, "\tReference subsystem %s found in Group: %s\n", reference.c_str(),
+                group_text.c_str());
+    }
+    return true;
+}
+
+int DoIndividualSubSystemCheck(const hba_info& port, fc_config_file_entry* const& entry,
+                               global_ctrl_flags& flags) {
+    const target_mapping_entry& storage = *port.target_mapping;
+    Verdict verdict;
+    for (const auto* allowed = entry->periphery; allowed != nullptr; allowed = allowed->next) {
+        if (!blank(allowed->vendor) && std::strcmp(allowed->vendor, storage.vendor_id) == 0 &&
+            check_subsystem(*allowed, storage, verdict)) {
+            break;
+        }
+    }
+    if (verdict.found) {
+        message(1, "\n");
+        return 1;
+    }
+    flags.InvalidCtrlSubsystemCombinationFound = 1;
+    if (levels_above(5)) {
+        report_invalid(storage);
+    }
+    return 0;
+}

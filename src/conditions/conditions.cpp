@@ -1,0 +1,20 @@
+#include "conditions/conditions.h"
+
+#include "run/record_list.h"
+
+fc_config_file_entry** fc_config_entry_list = nullptr;
+
+namespace {
+
+std::int32_t config_entry_cnt = 0;
+std::int32_t periphery_info_cnt = 0;
+
+} // namespace
+
+fc_config_file_entry* get_new_config_file_entry() {
+    return append_new_record(fc_config_entry_list, config_entry_cnt);
+}
+
+periphery_info_entry* get_new_periphery_info_entry() {
+    return new_counted_record<periphery_info_entry>(periphery_info_cnt);
+}

@@ -1,0 +1,42 @@
+// The conditions: which controllers are supported, the images that belong to
+// them and the storage subsystems that may be attached to them.
+#pragma once
+
+#include <cstdint>
+
+// A storage subsystem that a controller may see.
+struct periphery_info_entry {
+    char vendor[10]; // as the vendor CLI reports it
+    char models[20]; // comma-separated model prefixes; empty: every model of the vendor
+    char extra[10];
+    periphery_info_entry* next;
+};
+
+// One supported controller: a data line of the conditions file.
+struct fc_config_file_entry {
+    char vendor[20]; // leading part of the port's manufacturer
+    char model[20];  // leading part of the port's model
+    char vendor_id_str[6];
+    char device_id_str[6];
+    char subvendor_id_str[6];
+    char subdevice_id_str[6];
+    std::int32_t vendor_id;
+    std::int32_t device_id;
+    std::int32_t subvendor_id;
+    std::int32_t subdevice_id;
+    char column6[20];
+    char column7[20];
+    char column11[20];
+    char firmware_image[80]; // a name prefix, or "*." and an extension
+    char bios_image[80];     // the same; empty: no BIOS to flash
+    char column10[80];
+    periphery_info_entry* periphery;
+};
+
+// Every record in file order, null-terminated; null as long as there is none.
+extern fc_config_file_entry** fc_config_entry_list;
+
+// Make a zero-filled record; null when memory is exhausted. The first appends
+// it to fc_config_entry_list, the caller links the second to its record.
+fc_config_file_entry* get_new_config_file_entry();
+periphery_info_entry* get_new_periphery_info_entry();

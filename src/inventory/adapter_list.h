@@ -1,0 +1,9 @@
+// The first report: the ports that the vendor CLI lists.
+#pragma once
+
+#include <cstdint>
+
+// Takes and reads the list into p_hba_info_list. Returns RET_OK (also for a
+// report without a port), RET_FATAL_ERROR when the command failed,
+// report_not_opened or RET_MEMALLOC_FAIL.
+std::int32_t read_adapter_list();

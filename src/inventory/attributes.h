@@ -1,0 +1,8 @@
+// The second report: the attributes of one port, above all its PCI identity.
+#pragma once
+
+#include "inventory/hba_info.h"
+
+// Takes and reads the port's report into `attributes`; a port without a serial
+// number gets none. Returns RET_OK, report_not_opened or RET_MEMALLOC_FAIL.
+std::int32_t read_attributes(hba_info& port);

@@ -1,0 +1,49 @@
+#include "inventory/report.h"
+
+#include "inventory/vendor_cli.h"
+
+ReportFile report_file(const char* name) {
+    return {std::string(pHBAWorkingPath) + "/" + name};
+}
+
+ReportFile report_file(const hba_info& port, const char* name) {
+    const std::string_view serial = port.serial_no;
+    const std::string_view function = port.pci_function;
+    std::string path = pHBAWorkingPath;
+    path.append("/").append(serial).append("_").append(function).append("_").append(name);
+    // A port without a serial number is named "n/a" and its report is never read.
+    const bool inside = (serial_missing(port) || serial.find('/') == std::string_view::npos) &&
+                        function.find('/') == std::string_view::npos;
+    return {std::move(path), inside};
+}
+
+std::int32_t take_report(const char* lead, std::initializer_list<std::string_view> words,
+                         const ReportFile& file, const char* tail) {
+    ShellCommand command{lead, file.inside};
+    command.text += hbacmd_path;
+    for (const std::string_view word : words) {
+        command.text.append(" ").append(shell_word(word));
+    }
+    command.text.append(" > ").append(shell_word(file.path)).append(tail);
+    message(6, "%s", command.text.c_str());
+    return run_command(command);
+}
+
+TextFile open_report(const ReportFile& file) {
+    TextFile report;
+    if (file.inside && file.path.size() < path_capacity) {
+        report = open_text_file(file.path.c_str());
+    }
+    if (report == nullptr) {
+        message(1, "Error: Could not open file %s\n", file.path.c_str());
+    }
+    return report;
+}
+
+char* line_value(char* line) {
+    char* const colon = std::strchr(line, ':');
+    if (colon == nullptr) {
+        return nullptr;
+    }
+    return cleanString(colon + (colon[1] == '\0' ? 1 : 2));
+}

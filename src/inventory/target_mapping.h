@@ -1,0 +1,10 @@
+// The third report: the storage that one port sees.
+#pragma once
+
+#include "inventory/hba_info.h"
+
+// Takes and reads the report of a Fibre Channel or FCoE port into
+// `target_mapping`, which stays null when the port sees no storage or has no
+// serial number; other ports are passed over. Returns RET_OK, report_not_opened
+// or RET_MEMALLOC_FAIL.
+std::int32_t read_target_mapping(hba_info& port);

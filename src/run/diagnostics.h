@@ -1,0 +1,37 @@
+// The diagnostic writer. Every message of the tool but two kinds goes through
+// it: the refusals of the conditions file's identifiers and the overflow of a
+// number, which go straight to standard error.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+
+inline std::int32_t VerboseLevel = 1;       // 0 to 6: how much standard output shows
+inline std::int32_t DebugLevel = 0;         // 0 to 6: how much a debug run records
+inline std::int32_t PrintDebugOnScreen = 1; // 0 or 1: whether the screen may be used at all
+
+// The longest message that is written, without its terminating NUL.
+constexpr std::size_t message_length_max = 4095;
+
+// Separators of the reports: eight groups of ten characters.
+#define CNATOOL_EIGHT_TIMES(text) text text text text text text text text
+constexpr const char* divider = CNATOOL_EIGHT_TIMES("---------+");
+constexpr const char* star_divider = CNATOOL_EIGHT_TIMES("*********+");
+
+// Writes `text` unchanged where the levels and the screen switch send it: to
+// standard output, standard error or `stream` (which may be null). Returns 1
+// when it was written, 0 when it was hidden.
+int PrintDebug(std::int32_t level, const char* text, std::FILE* stream);
+
+// True when the verbose or the debug level is above `level`: the stricter gate
+// that some messages have beside their own level.
+inline bool levels_above(std::int32_t level) {
+    return VerboseLevel > level || DebugLevel > level;
+}
+
+// Whether a message of `level` would be written anywhere.
+bool message_shown(std::int32_t level);
+
+// Formats a message, cut to message_length_max characters, and hands it to
+// PrintDebug. Nothing is formatted when the levels hide it.
+[[gnu::format(printf, 2, 3)]] void message(std::int32_t level, const char* format, ...);

@@ -1,0 +1,69 @@
+#include "run/directories.h"
+
+#include "run/diagnostics.h"
+#include "run/return_codes.h"
+#include "run/settings.h"
+#include "run/text.h"
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+std::string current_directory() {
+    char directory[PATH_MAX];
+    if (getcwd(directory, sizeof directory) == nullptr) {
+        message(1, "\n\nCannot determine the current directory: %s\n\n", std::strerror(errno));
+        std::exit(RET_BAD_CALL);
+    }
+    return directory;
+}
+
+void append(std::span<char> path, std::string_view text) {
+    const std::size_t used = std::strlen(path.data());
+    copy_text(path.subspan(used), text);
+}
+
+} // namespace
+
+void set_directories(const char* directory) {
+    if (std::strlen(directory) > directory_length_max) {
+        message(1, "\n\nPath '%s' is too long (at most %d characters)!\n\n", directory,
+                static_cast<int>(directory_length_max));
+        std::exit(RET_BAD_CALL);
+    }
+    copy_text(pHBAConditionsPath, directory);
+    copy_text(pHBAFirmwarePath, directory);
+    copy_text(pHBAWorkingPath, directory);
+}
+
+void settle_directories(const char* program) {
+    if (pHBAConditionsPath[0] == '\0') {
+        const std::string typed = program;
+        const std::size_t slash = typed.rfind('/');
+        set_directories(slash == std::string::npos ? current_directory().c_str()
+                                                   : typed.substr(0, slash).c_str());
+    }
+    append(pHBAWorkingPath, "/");
+    append(pHBAFirmwarePath, "/");
+    append(pHBAConditionsPath, "/");
+    append(pHBAConditionsPath, conditions_file_name);
+    message(3, "HBA conditions file: %s\n", pHBAConditionsPath);
+}
+
+void settle_temporary_directory() {
+    const char* const directory = std::getenv("TMPDIR");
+    if (directory == nullptr) {
+        copy_text(TEMPDIR_BUFFER, "/tmp");
+        message(3, "env: Environment variable %s is not set.\n", "TMPDIR");
+    } else if (*directory == '\0') {
+        copy_text(TEMPDIR_BUFFER, "/tmp");
+        message(3, "env: Environment variable %s is empty.\n", "TMPDIR");
+    } else {
+        copy_text(TEMPDIR_BUFFER, directory);
+        message(3, "env: Temporary directory is: %s.\n", TEMPDIR_BUFFER);
+    }
+}

@@ -1,0 +1,39 @@
+// Text helpers shared by every parser of the tool.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string_view>
+
+// Stores `text` in a fixed-capacity field, cut to what fits beside the
+// terminating NUL. The only way text gets into a record.
+inline void copy_text(std::span<char> field, std::string_view text) {
+    const std::size_t length = std::min(text.size(), field.size() - 1);
+    std::memcpy(field.data(), text.data(), length);
+    field[length] = '\0';
+}
+
+// The field `Member` of a record with its capacity, for tables that say where
+// a value goes.
+template <auto Member, class Record>
+std::span<char> text_field(Record& record) {
+    return record.*Member;
+}
+
+inline bool begins_with(const char* text, std::string_view prefix) {
+    return std::strncmp(text, prefix.data(), prefix.size()) == 0;
+}
+
+// Reads `text` as a number in `base` (10 or 16); trailing blanks and newlines
+// are cut off in place. Returns the value cut to 32 bits, negated behind a
+// leading minus sign; -1 for an empty text and all ones before the negation for
+// one that is no number. Callers refuse every negative result. A value above 64
+// bits ends the process with 1 and the library's message on standard error.
+std::int32_t string2int(char* text, int base);
+
+// Turns quotes, tabs and newlines of `text` into blanks and cuts trailing
+// blanks, in place. Returns the first character that is not a blank.
+char* cleanString(char* text);
