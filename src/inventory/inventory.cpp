@@ -7,7 +7,6 @@
 #include "inventory/vendor_cli.h"
 #include "run/diagnostics.h"
 #include "run/return_codes.h"
-#include "run/settings.h"
 
 namespace {
 
@@ -25,7 +24,7 @@ std::int32_t for_each_port(Stage stage) {
 } // namespace
 
 std::int32_t Get_All_Hba_Info() {
-    if (active_option_simulate == 0 && !hbacmd_installed()) {
+    if (!hbacmd_available()) {
         message(1, "\t\tCommand %s is not available!\n\n", hbacmd_path);
         return RET_SCLI_NOT_INSTALLED;
     }

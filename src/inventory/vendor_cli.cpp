@@ -67,9 +67,9 @@ std::int32_t run_shell(std::string text) {
 
 } // namespace
 
-bool hbacmd_installed() {
+bool hbacmd_available() {
     struct stat status {};
-    return stat(hbacmd_path, &status) == 0;
+    return active_option_simulate != 0 || stat(hbacmd_path, &status) == 0;
 }
 
 std::string shell_word(std::string_view value) {

@@ -10,8 +10,8 @@
 // The fixed path of the CLI; it is never looked for elsewhere.
 extern const char* const hbacmd_path;
 
-// Whether the CLI is installed; errno tells why not.
-bool hbacmd_installed();
+// Whether the CLI can be run: it is installed (errno tells why not) or simulated.
+bool hbacmd_available();
 
 // `value` as the shell reads it as one plain word: as it stands when it is
 // harmless or empty, else in single quotes.

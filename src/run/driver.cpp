@@ -4,6 +4,7 @@
 #include "classify/classify.h"
 #include "classify/pairing.h"
 #include "conditions/conditions_file.h"
+#include "flash/flash_run.h"
 #include "inventory/hba_info.h"
 #include "inventory/inventory.h"
 #include "run/command_line.h"
@@ -80,14 +81,31 @@ ReturnCode failed_check(const Request& request, const global_ctrl_flags& flags) 
     return RET_OK;
 }
 
-void check(const Request& request, global_ctrl_flags& flags) {
-    const int passed = OverallSubSystemCheck(request.selection, flags) & 0xff;
-    message(3, "OverallSubSystemCheck returned: %d \n", passed != 0);
+void flash(const Request& request, global_ctrl_flags& flags) {
+    const std::int32_t result = OverallFlashBladeEngine(request.selection, flags);
+    message(3, "\t\tOverallFlashBladeEngine returned: %d \n\n", result);
+    if (result != RET_OK) {
+        std::exit(result);
+    }
 }
 
+// Runs what was asked for; a flash only after the check beside it has passed.
 void dispatch(const Request& request, global_ctrl_flags& flags) {
-    if (request.check()) {
-        check(request, flags);
+    if (!request.check()) {
+        flash(request, flags);
+        return;
+    }
+    const bool passed = (OverallSubSystemCheck(request.selection, flags) & 0xff) == 1;
+    if (!request.flash || !passed) {
+        message(3, "OverallSubSystemCheck returned: %d \n", passed);
+    }
+    if (!request.flash) {
+        return;
+    }
+    if (passed) {
+        flash(request, flags);
+    } else if (const ReturnCode code = failed_check(request, flags); code != RET_OK) {
+        std::exit(code);
     }
 }
 

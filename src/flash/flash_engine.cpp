@@ -1,0 +1,163 @@
+#include "flash/flash_engine.h"
+
+#include "flash/image_search.h"
+#include "inventory/vendor_cli.h"
+#include "run/diagnostics.h"
+#include "run/return_codes.h"
+#include "run/signal_hold.h"
+
+#include <cerrno>
+#include <string>
+#include <sys/stat.h>
+
+namespace {
+
+// What the two images of an adapter differ in.
+struct ImageKind {
+    const char* look;
+    const char* found;
+    const char* start;
+    const char* gone;
+};
+
+constexpr ImageKind firmware = {
+    "\t\tLook for firmware file: %s\n",
+    "\t\t\tFirmware file found: %s\n\n",
+    "\tNow start flashing the firmware.\n\t\tFlash command is: %s\n",
+    "\t\t\tFirmware file is not available: %s\n\n",
+};
+
+constexpr ImageKind bios = {
+    "\t\tLook for BIOS file: %s\n",
+    "\t\t\tBIOS file found: %s\n\n",
+    "\tNow start flashing the BIOS.\n\t\tFlash command is: %s\n",
+    "\t\t\tBIOS file is not available: %s\n\n",
+};
+
+bool exists(const std::string& path) {
+    struct stat status {};
+    return path.size() < path_capacity && stat(path.c_str(), &status) == 0;
+}
+
+// A model is text from a report; it must not lead out of the firmware directory.
+bool names_directory(std::string_view model) {
+    return model.find('/') == std::string_view::npos && model != "." && model != "..";
+}
+
+// The directory of the port's images: the model's own or the common one.
+std::string image_directory(const hba_info& port) {
+    std::string directory = std::string(pHBAFirmwarePath) + port.model;
+    if (!names_directory(port.model) || !exists(directory)) {
+        message(1, "\t\tFirmware directory is not available: %s\n\n", directory.c_str());
+        directory = pHBAFirmwarePath;
+    }
+    message(1, "\tFirmware path: %s\n", directory.c_str());
+    if (directory != pHBAFirmwarePath) {
+        directory += '/';
+    }
+    return directory;
+}
+
+// Makes sure that an image is there before anything is written.
+std::int32_t look_for_image(const ImageKind& kind, const std::string& directory,
+                            const char* pattern) {
+    message(1, kind.look, pattern);
+    char image[path_capacity];
+    if (FindFlashImage(directory.c_str(), image, pattern) == RET_OK) {
+        message(1, "\t\tFound BIOS- or firmware-image: %s '%s'\n", image, pattern);
+        return RET_OK;
+    }
+    if (!exists(directory)) {
+        message(1, "Error: Firmware directory is not available: %s\n\n", directory.c_str());
+    } else {
+        message(1, "\tNo BIOS- or firmware-image was found in %s!\n", pattern);
+    }
+    return RET_FW_NOT_AVAILABLE;
+}
+
+std::int32_t run_flash_command(const ShellCommand& command) {
+    // A half-written image bricks the adapter: signals wait until the result of
+    // the command has been told.
+    const SignalHold hold;
+    const std::int32_t status = run_command(command);
+    message(1, "\t\t%s, flash command returned code %d.\n\n", status == 0 ? "Success" : "Fail",
+            status);
+    return status;
+}
+
+// Writes one image through the flash port. An image that has vanished since it
+// was looked for is only reported.
+std::int32_t flash_image(const ImageKind& kind, const hba_info& flash_port,
+                         const std::string& directory, const char* pattern) {
+    char image[path_capacity];
+    if (FindFlashImage(directory.c_str(), image, pattern) != RET_OK) {
+        message(1, kind.gone, pattern);
+        return RET_OK;
+    }
+    if (!hbacmd_available()) {
+        message(1, "Error: Flash command %s is not available: %s\n\n", hbacmd_path,
+                std::strerror(errno));
+        return RET_SCLI_NOT_INSTALLED;
+    }
+    ShellCommand command{"\n\t\t"};
+    command.text.append(hbacmd_path).append(" download ");
+    command.text.append(shell_word(flash_port.permanent_mac)).append(" ");
+    command.text.append(shell_word(image)).append(" >> ");
+    command.text.append(shell_word(directory + "/FWtrace.out")).append("\n");
+    message(1, kind.found, image);
+    message(1, kind.start, command.text.c_str());
+    return run_flash_command(command) == 0 ? RET_OK : RET_FLASH_ERROR;
+}
+
+std::int32_t flash_adapter(const hba_info& port, const fc_config_file_entry& entry) {
+    if (!exists(pHBAFirmwarePath)) {
+        message(1, "\t\tFirmware directory is not available: %s\n\n", pHBAFirmwarePath);
+        return RET_FW_NOT_AVAILABLE;
+    }
+    const std::string directory = image_directory(port);
+    const bool with_bios = entry.bios_image[0] != '\0';
+    std::int32_t result = look_for_image(firmware, directory, entry.firmware_image);
+    if (result == RET_OK && with_bios) {
+        result = look_for_image(bios, directory, entry.bios_image);
+    }
+    if (result == RET_OK) {
+        result = flash_image(firmware, *port.flash_port, directory, entry.firmware_image);
+    }
+    if (result == RET_OK && with_bios) {
+        result = flash_image(bios, *port.flash_port, directory, entry.bios_image);
+    }
+    return result;
+}
+
+} // namespace
+
+void report_flash_port(const hba_info& port) {
+    message(1,
+            "\t\tVendor: %s, Model: %s SerialNumber: %s PortType: %s PortNumber: %s "
+            "PortFunction: %s\n",
+            port.mfg, port.model, port.serial_no, port.port_type, port.port_number,
+            port.pci_function);
+}
+
+std::int32_t FlashBladeEngine(hba_info& port, fc_config_file_entry* const& entry,
+                              global_ctrl_flags& flags) {
+    flags.MatchingCtrlModelInstalled = 1;
+    const bool already_flashed = port.flash_port->flash_done != 0;
+    if (already_flashed) {
+        message(1, "\t%s\n", divider);
+    }
+    message(1, "\tInstalled controller-device:\n");
+    report_flash_port(port);
+    if (already_flashed) {
+        message(1, "\t\tPort index: %d Firmware already flashed => SKIP.\n\n", port.port_index);
+        port.flash_done = 1;
+        return RET_OK;
+    }
+    message(1, "\t\tPort index: %d.\n\n", port.port_index);
+    if (const std::int32_t result = flash_adapter(port, *entry); result != RET_OK) {
+        return result;
+    }
+    port.flash_done = 1;
+    message(1, "\n");
+    return RET_OK;
+}

@@ -1,0 +1,18 @@
+#include "run/signal_hold.h"
+
+#include <cstdio>
+#include <initializer_list>
+
+SignalHold::SignalHold() {
+    sigset_t held;
+    sigemptyset(&held);
+    for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGHUP}) {
+        sigaddset(&held, signal);
+    }
+    sigprocmask(SIG_BLOCK, &held, &before_);
+}
+
+SignalHold::~SignalHold() {
+    static_cast<void>(std::fflush(nullptr));
+    sigprocmask(SIG_SETMASK, &before_, nullptr);
+}

@@ -1,0 +1,18 @@
+// Keeping signals from breaking what must not be broken.
+#pragma once
+
+#include <csignal>
+
+// While it lives, Ctrl-C, Ctrl-\, a hang-up of the terminal and a polite kill
+// wait, for the processes started meanwhile too. At its end the messages are
+// flushed and a signal that came takes its effect.
+class SignalHold {
+public:
+    SignalHold();
+    SignalHold(const SignalHold&) = delete;
+    SignalHold& operator=(const SignalHold&) = delete;
+    ~SignalHold();
+
+private:
+    sigset_t before_{};
+};
