@@ -149,12 +149,12 @@ option_input* save_list_of_pci_ids(std::string_view value) {
     return p_option_input;
 }
 
-option_input* save_list_of_ctrl_options(std::string_view value, std::int32_t kind) {
+option_input* save_list_of_ctrl_options(std::string_view value, std::uint32_t kind) {
     static Input* p_option_input = nullptr;
-    if (kind < 0 || static_cast<std::size_t>(kind) >= kinds.size()) {
+    if (kind >= kinds.size()) {
         std::exit(RET_FATAL_ERROR);
     }
-    const Kind& row = kinds[static_cast<std::size_t>(kind)];
+    const Kind& row = kinds[kind];
     if (levels_above(2)) {
         message(2, row.list_echo, std::string(value).c_str());
     }

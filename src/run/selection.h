@@ -21,7 +21,7 @@ struct option_input {
 };
 
 // What a list option fills.
-enum SelectionKind : std::int32_t {
+enum SelectionKind : std::uint32_t {
     kind_vendor_id,
     kind_subvendor_id,
     kind_vendor_name,
@@ -44,4 +44,4 @@ option_input* save_list_of_pci_ids(std::string_view value);
 // entry of the list that all kinds share, and returns its head; null when no
 // call made an entry yet. An identifier that is not hexadecimal, or an unknown
 // kind, ends the process with RET_FATAL_ERROR.
-option_input* save_list_of_ctrl_options(std::string_view value, std::int32_t kind);
+option_input* save_list_of_ctrl_options(std::string_view value, std::uint32_t kind);
