@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::string_view header = "HBA Attributes for";
+constexpr const char* header = "HBA Attributes for";
 constexpr const char* trace = "\t\t%s\n";
 
 constexpr Label<hba_attributes_entry> labels[] = {
@@ -95,7 +95,7 @@ bool read_attributes_line(char* line, hba_info& port) {
         if (port.attributes == nullptr) {
             return false;
         }
-        message(6, "\n\t\t%s %s\n\n", header.data(), port_identifier(port));
+        message(6, "\n\t\t%s %s\n\n", header, port_identifier(port));
         return true;
     }
     const Label<hba_attributes_entry>* label = find_label<hba_attributes_entry>(labels, line);

@@ -1,6 +1,7 @@
 #include "inventory/report.h"
 
 #include "inventory/vendor_cli.h"
+#include "run/settings.h"
 
 ReportFile report_file(const char* name) {
     return {std::string(pHBAWorkingPath) + "/" + name};

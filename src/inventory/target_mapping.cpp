@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::string_view header = "Target Mapping for";
+constexpr const char* header = "Target Mapping for";
 constexpr const char* trace = "\t\t\t%s\n";
 
 constexpr Label<target_mapping_entry> labels[] = {
@@ -41,7 +41,7 @@ bool read_mapping_line(char* line, std::int32_t number, hba_info& port) {
         }
     }
     if (begins_with(line, header)) {
-        message(6, "\n\t\t\t%s %s\n", header.data(), port.port_wwn);
+        message(6, "\n\t\t\t%s %s\n", header, port.port_wwn);
         return true;
     }
     const Label<target_mapping_entry>* label = find_label<target_mapping_entry>(labels, line);

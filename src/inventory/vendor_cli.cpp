@@ -1,11 +1,11 @@
 #include "inventory/vendor_cli.h"
 
 #include "run/settings.h"
+#include "run/signal_hold.h"
 
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -23,38 +23,31 @@ constexpr std::string_view plain_characters = "abcdefghijklmnopqrstuvwxyz"
                                               "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                               "0123456789%+,-./:=@_";
 
-// Spawn attributes that give the child the default reaction to a closed pipe,
-// which the tool itself ignores.
-class ShellAttributes {
-public:
-    ShellAttributes() {
-        posix_spawnattr_init(&attributes_);
-        sigset_t defaults;
-        sigemptyset(&defaults);
-        sigaddset(&defaults, SIGPIPE);
-        posix_spawnattr_setsigdefault(&attributes_, &defaults);
-        posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGDEF);
+// Becomes the shell. It reacts to a closed pipe in the default way, which the
+// tool itself does not; signals that are held back are ignored as well, since a
+// shell may clear the mask that it inherits.
+[[noreturn]] void become_shell(const char* text) {
+    static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
+    sigset_t held;
+    sigprocmask(SIG_BLOCK, nullptr, &held);
+    for (const int signal : SignalHold::signals) {
+        if (sigismember(&held, signal) == 1) {
+            static_cast<void>(std::signal(signal, SIG_IGN));
+        }
     }
-    ShellAttributes(const ShellAttributes&) = delete;
-    ShellAttributes& operator=(const ShellAttributes&) = delete;
-    ~ShellAttributes() { posix_spawnattr_destroy(&attributes_); }
-    [[nodiscard]] const posix_spawnattr_t* get() const { return &attributes_; }
+    execl("/bin/sh", "sh", "-c", text, static_cast<char*>(nullptr));
+    _exit(127);
+}
 
-private:
-    posix_spawnattr_t attributes_{};
-};
-
-// The standard library's system() would do, but for two things: it makes the
-// tool deaf to Ctrl-C while a report is taken, and lets the child inherit the
-// ignored SIGPIPE.
-std::int32_t run_shell(std::string text) {
-    char shell[] = "sh";
-    char option[] = "-c";
-    char* arguments[] = {shell, option, text.data(), nullptr};
-    const ShellAttributes attributes;
-    pid_t child = 0;
-    if (posix_spawn(&child, "/bin/sh", nullptr, attributes.get(), arguments, environ) != 0) {
+// The library's system() would do, but that it makes the tool deaf to Ctrl-C
+// while a report is taken.
+std::int32_t run_shell(const char* text) {
+    const pid_t child = fork();
+    if (child < 0) {
         return -1;
+    }
+    if (child == 0) {
+        become_shell(text);
     }
     int status = 0;
     while (waitpid(child, &status, 0) < 0) {
@@ -96,5 +89,5 @@ std::int32_t run_command(const ShellCommand& command) {
     }
     // Whoever watches the run sees what has been said before the command starts.
     static_cast<void>(std::fflush(nullptr));
-    return run_shell(command.text);
+    return run_shell(command.text.c_str());
 }

@@ -7,7 +7,7 @@
 #include "run/settings.h"
 
 #include <cstdlib>
-#include <cstring>
+#include <utility>
 
 namespace {
 

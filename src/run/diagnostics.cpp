@@ -5,7 +5,7 @@
 
 namespace {
 
-// Where debug output goes besides the screen.
+// Where debug output goes besides the screen: nowhere yet.
 std::FILE* const debug_stream = nullptr;
 
 bool hidden(std::int32_t level, const std::FILE* stream) {

@@ -8,7 +8,10 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <cstring>
+#include <span>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 
 namespace {

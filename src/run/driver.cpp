@@ -10,11 +10,13 @@
 #include "run/command_line.h"
 #include "run/diagnostics.h"
 #include "run/directories.h"
+#include "run/process.h"
 #include "run/return_codes.h"
 #include "run/settings.h"
 #include "run/summary.h"
 
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
@@ -49,7 +51,7 @@ int none_found(const Request& request, ReturnCode code) {
 void take_inventory(const Request& request, global_ctrl_flags& flags) {
     flags.NoFcCtrlInstalled = 0;
     flags.VendorReferenceSubsystem = nullptr;
-    // Whatever went wrong shows as an absent list.
+    // Only an absent list ends the run: what could be read is checked.
     static_cast<void>(Get_All_Hba_Info());
     if (p_hba_info_list == nullptr) {
         message(1, "\nNo Blade Engine was found in this system.\n\n");
@@ -58,7 +60,8 @@ void take_inventory(const Request& request, global_ctrl_flags& flags) {
     }
 }
 
-// An adapter without a flash port is one whose driver module is not loaded.
+// A port that belongs to no adapter that could be flashed: its functions are not
+// all there, as when a kernel module is missing.
 void check_kernel_module() {
     for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
         if (!serial_missing(**port) && (*port)->flash_port == nullptr) {
@@ -129,6 +132,7 @@ void reset_results(global_ctrl_flags& flags) {
 } // namespace
 
 int run_tool(int argc, char** argv) {
+    prepare_process();
     // A caller may start a program without any word at all.
     const char* const typed = argc > 0 ? argv[0] : "cnatool";
     const Words words(argv + 1, argc > 0 ? static_cast<std::size_t>(argc) - 1 : 0);

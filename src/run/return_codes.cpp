@@ -21,7 +21,8 @@ std::string return_message() {
     std::string text = "\n   Valid return codes\n\n";
     for (const auto& code : codes) {
         std::array<char, 64> line{};
-        std::snprintf(line.data(), line.size(), "   %-40s%2d\n", code.name.data(), code.value);
+        static_cast<void>(
+            std::snprintf(line.data(), line.size(), "   %-40s%2d\n", code.name, code.value));
         text += line.data();
     }
     return text + "\n";

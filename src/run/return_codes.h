@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <span>
 #include <string>
-#include <string_view>
 
 // NOLINTNEXTLINE(cppcoreguidelines-macro-usage): an enumerator can't be made from a table.
 #define CNATOOL_RETURN_CODES(X)                                                                    \
@@ -33,7 +32,7 @@ enum ReturnCode : std::int32_t {
 };
 
 struct ReturnCodeName {
-    std::string_view name;
+    const char* name;
     std::int32_t value;
 };
 

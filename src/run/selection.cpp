@@ -116,7 +116,8 @@ void list_pci_ids(const Input* entry) {
 } // namespace
 
 option_input* get_new_option_input_buffer() {
-    return new (std::nothrow) option_input{};
+    static std::int32_t option_input_cnt = 0;
+    return new_counted_record<option_input>(option_input_cnt);
 }
 
 option_input* save_list_of_pci_ids(std::string_view value) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 struct hba_info;
 
@@ -30,6 +31,8 @@ constexpr std::size_t path_capacity = 1024;
 
 // The longest directory that leaves room for "/" and the conditions file's name.
 constexpr std::size_t directory_length_max = 1001;
+static_assert(directory_length_max + 1 + std::string_view(conditions_file_name).size() <
+              path_capacity);
 
 inline char pHBAConditionsPath[path_capacity]; // the conditions file
 inline char pHBAFirmwarePath[path_capacity];   // the images' directory, with a trailing "/"

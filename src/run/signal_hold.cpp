@@ -1,12 +1,11 @@
 #include "run/signal_hold.h"
 
 #include <cstdio>
-#include <initializer_list>
 
 SignalHold::SignalHold() {
     sigset_t held;
     sigemptyset(&held);
-    for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGHUP}) {
+    for (const int signal : signals) {
         sigaddset(&held, signal);
     }
     sigprocmask(SIG_BLOCK, &held, &before_);

@@ -8,6 +8,8 @@
 // flushed and a signal that came takes its effect.
 class SignalHold {
 public:
+    static constexpr int signals[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};
+
     SignalHold();
     SignalHold(const SignalHold&) = delete;
     SignalHold& operator=(const SignalHold&) = delete;

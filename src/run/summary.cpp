@@ -4,6 +4,7 @@
 #include "inventory/hba_info.h"
 #include "run/diagnostics.h"
 
+#include <cstring>
 #include <string>
 
 namespace {

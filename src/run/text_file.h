@@ -1,8 +1,6 @@
 // Text files that other programs wrote.
 #pragma once
 
-#include "run/settings.h"
-
 #include <cstdio>
 #include <memory>
 
