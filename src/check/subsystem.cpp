@@ -43,23 +43,22 @@ void accept(std::string_view item, Verdict& verdict) {
 // Looks for an item of the group that the product begins with. The last item is
 // looked at only while nothing has allowed the product yet, and an empty one
 // allows nothing; an empty item before a comma allows everything.
-void check_items(std::string_view group, std::string_view product, Verdict& verdict) {
-    for (auto comma = group.find(','); comma != std::string_view::npos; comma = group.find(',')) {
-        const std::string item(group.substr(0, comma));
-        message(1, "\t\t\tCheck subsystem: '%s' Attached subsystem: '%s'", item.c_str(),
-                product.data());
-        if (product.starts_with(item)) {
+void check_items(const char* group, const char* product, Verdict& verdict) {
+    while (const char* const comma = std::strchr(group, ',')) {
+        const std::string item(group, comma);
+        message(1, "\t\t\tCheck subsystem: '%s' Attached subsystem: '%s'", item.c_str(), product);
+        if (begins_with(product, item)) {
             accept(item, verdict);
             return;
         }
         message(1, "\t\t\t--> Invalid subsystem!\n");
-        group.remove_prefix(comma + 1);
+        group = comma + 1;
     }
     if (verdict.found) {
         return;
     }
-    message(1, "\t\tCheck subsystem: '%s' Attached subsystem: '%s'", group.data(), product.data());
-    if (!group.empty() && product.starts_with(group)) {
+    message(1, "\t\tCheck subsystem: '%s' Attached subsystem: '%s'", group, product);
+    if (*group != '\0' && begins_with(product, group)) {
         accept(group, verdict);
     } else {
         message(1, "\t\t\t--> Invalid subsystem!\n");

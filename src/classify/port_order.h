@@ -41,7 +41,7 @@ private:
     hba_info** ports_;
 
     // Regrouping from a position moves nothing when nothing was exchanged since
-    // it was last done from there or from further ahead. Remembering that keeps
+    // it was last done from there or from an earlier one. Remembering that keeps
     // ports that are already in order from costing a pass for every adapter.
     static constexpr std::size_t nowhere = ~std::size_t{0};
     std::size_t regrouped_from_ = nowhere;

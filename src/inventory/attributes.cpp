@@ -91,6 +91,8 @@ const char* port_identifier(const hba_info& port) {
 // Returns false when memory is exhausted.
 bool read_attributes_line(char* line, hba_info& port) {
     if (begins_with(line, header)) {
+        // Another heading replaces what the report said before it.
+        delete port.attributes;
         port.attributes = get_new_hba_attributes_entry();
         if (port.attributes == nullptr) {
             return false;

@@ -12,8 +12,9 @@ ReportFile report_file(const hba_info& port, const char* name) {
     const std::string_view function = port.pci_function;
     std::string path = pHBAWorkingPath;
     path.append("/").append(serial).append("_").append(function).append("_").append(name);
-    // A port without a serial number is named "n/a" and its report is never read.
-    const bool inside = (serial_missing(port) || serial.find('/') == std::string_view::npos) &&
+    // A port without a serial number is named "n/a", and its report is never read.
+    const std::size_t named = serial_missing(port) ? 3 : 0;
+    const bool inside = serial.find('/', named) == std::string_view::npos &&
                         function.find('/') == std::string_view::npos;
     return {std::move(path), inside};
 }

@@ -98,7 +98,7 @@ void dispatch(const Request& request, global_ctrl_flags& flags) {
         flash(request, flags);
         return;
     }
-    const bool passed = (OverallSubSystemCheck(request.selection, flags) & 0xff) == 1;
+    const bool passed = OverallSubSystemCheck(request.selection, flags) != 0;
     if (!request.flash || !passed) {
         message(3, "OverallSubSystemCheck returned: %d \n", passed);
     }

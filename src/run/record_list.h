@@ -11,7 +11,7 @@
 // they were, when memory is exhausted.
 template <class Record>
 Record* append_new_record(Record**& list, std::int32_t& count) {
-    auto* record = new (std::nothrow) Record{};
+    auto* const record = new (std::nothrow) Record();
     if (record == nullptr) {
         return nullptr;
     }
@@ -32,7 +32,7 @@ Record* append_new_record(Record**& list, std::int32_t& count) {
 // when memory is exhausted.
 template <class Record>
 Record* new_counted_record(std::int32_t& count) {
-    auto* record = new (std::nothrow) Record{};
+    auto* const record = new (std::nothrow) Record();
     if (record != nullptr) {
         ++count;
     }

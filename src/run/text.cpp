@@ -29,7 +29,7 @@ std::int32_t string2int(char* text, int base) {
     char* end = nullptr;
     errno = 0;
     unsigned long value = std::strtoul(digits, &end, base);
-    if (errno != 0) {
+    if (errno == ERANGE) {
         std::perror("strtoul");
         std::exit(1);
     }

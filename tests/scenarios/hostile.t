@@ -102,6 +102,16 @@ What a report says never starts anything and never leaves the directory.
   listhbas
   ./hbacmd
   ./out
+  $ hostile 'n/a/../../pwned'
+  [n/a/../../pwned]
+  => 12
+  \t\t./hbacmd hbaattributes n/a/../../pwned > blade//n/a/../../pwned_2_hba_attributes.out (esc)
+  
+  \t\tFail, "hbacmd hbaattributes n/a/../../pwned" command returned code -1. (esc)
+  \t\tNo serial number => SKIP! (esc)
+  listhbas
+  ./hbacmd
+  ./out
   $ hostile '"*"'
   ["*"]
   => 12

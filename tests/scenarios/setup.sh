@@ -1,3 +1,4 @@
+# shellcheck shell=sh
 # What the scenarios share; each runs in an empty directory of its own.
 # CNATOOL is the program as it is shipped, CNATOOL_STANDIN the same objects with
 # the vendor CLI's path set to ./hbacmd.

@@ -97,7 +97,7 @@ private:
 };
 
 TEST(PortOrder, IsThatOfThePlainProcedure) {
-    std::mt19937 random(20121105); // NOLINT(cert-msc51-cpp): the same lists every time
+    std::mt19937 random(20121105); // NOLINT(cert-msc*): the same lists every time
     const auto one_of = [&](const std::vector<const char*>& texts) {
         return texts[random() % texts.size()];
     };

@@ -86,7 +86,7 @@ TEST(Diagnostics, LevelsAndScreenDecideWhereAMessageGoes) {
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
         const int result = PrintDebug(level, "m", nullptr);
-        std::fflush(stdout);
+        static_cast<void>(std::fflush(stdout));
         return testing::internal::GetCapturedStdout() + "|" +
                testing::internal::GetCapturedStderr() + "|" + std::to_string(result);
     };
