@@ -6,7 +6,6 @@
 #include <span>
 #include <string>
 
-// NOLINTNEXTLINE(cppcoreguidelines-macro-usage): an enumerator can't be made from a table.
 #define CNATOOL_RETURN_CODES(X)                                                                    \
     X(RET_OK, 0)                                                                                   \
     X(RET_NOT_CTRL_WIDE_IDENTICAL, 1)                                                              \
