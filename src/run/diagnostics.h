@@ -23,6 +23,10 @@ constexpr const char* star_divider = CNATOOL_EIGHT_TIMES("*********+");
 // when it was written, 0 when it was hidden.
 int PrintDebug(std::int32_t level, const char* text, std::FILE* stream);
 
+// Opens the log of a debug run, emptied, and sends the messages there from now
+// on. A log that can't be opened is no error: the run goes on without one.
+void open_debug_log(const char* path);
+
 // True when the verbose or the debug level is above `level`: the stricter gate
 // that some messages have beside their own level.
 inline bool levels_above(std::int32_t level) {

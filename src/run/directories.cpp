@@ -54,6 +54,9 @@ void settle_directories(const char* program) {
     append(pHBAFirmwarePath, "/");
     append(pHBAConditionsPath, "/");
     append(pHBAConditionsPath, conditions_file_name);
+    if (DebugLevel > 0) {
+        open_debug_log((std::string(pHBAWorkingPath) + "Merlie_DLL.log").c_str());
+    }
     message(3, "HBA conditions file: %s\n", pHBAConditionsPath);
 }
 
