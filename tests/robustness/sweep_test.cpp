@@ -43,18 +43,21 @@ std::string port(const std::string& wwn, const std::string& number) {
 }
 
 // A blade of one adapter with two ports.
-const std::map<std::string, std::string> blade = {
-    {"FC_HBA_Conditions.txt",
-     "# comment\n--+--\n|\nEmulex | CNA | 19A2 | 0714 | 1C3E | 11C1 | x | x "
-     "| fw | *.b | x | x | DGC | C,CX | x | NRB | | x\n"},
-    {"local_hba_list.out", "List\n\n" + port("10:01", "0") + "\n" + port("10:02", "1")},
-    {"S1_0_hba_attributes.out", attributes("10:01")},
-    {"S1_1_hba_attributes.out", attributes("10:02")},
-    {"S1_0_target_mapping.out", mapping("10:01")},
-    {"S1_1_target_mapping.out", mapping("10:02")},
-    {"fw1", ""},
-    {"x.b", ""},
-};
+const std::map<std::string, std::string>& blade() {
+    static const std::map<std::string, std::string> files = {
+        {"FC_HBA_Conditions.txt",
+         "# comment\n--+--\n|\nEmulex | CNA | 19A2 | 0714 | 1C3E | 11C1 | x | x "
+         "| fw | *.b | x | x | DGC | C,CX | x | NRB | | x\n"},
+        {"local_hba_list.out", "List\n\n" + port("10:01", "0") + "\n" + port("10:02", "1")},
+        {"S1_0_hba_attributes.out", attributes("10:01")},
+        {"S1_1_hba_attributes.out", attributes("10:02")},
+        {"S1_0_target_mapping.out", mapping("10:01")},
+        {"S1_1_target_mapping.out", mapping("10:02")},
+        {"fw1", ""},
+        {"x.b", ""},
+    };
+    return files;
+}
 
 void write(const std::string& name, const std::string& content) {
     std::ofstream("blade/" + name, std::ios::binary) << content;
@@ -69,7 +72,7 @@ protected:
         scratch_ = name;
         std::filesystem::current_path(scratch_);
         std::filesystem::create_directory("blade");
-        for (const auto& [file, content] : blade) {
+        for (const auto& [file, content] : blade()) {
             write(file, content);
         }
     }
@@ -137,7 +140,7 @@ Lines split(const std::string& content) {
 }
 
 TEST_P(Sweep, CutAnywhere) {
-    const std::string& content = blade.at(GetParam());
+    const std::string& content = blade().at(GetParam());
     for (std::size_t length = 0; length <= content.size(); ++length) {
         expect_survived(GetParam(), content.substr(0, length));
     }
@@ -158,7 +161,7 @@ TEST_P(Sweep, SpoiltLines) {
             return line.substr(0, line.size() - 1) + std::string(length - line.size(), '9') + "\n";
         });
     }
-    const Lines lines = split(blade.at(GetParam()));
+    const Lines lines = split(blade().at(GetParam()));
     for (const Change& change : changes) {
         std::string all;
         for (std::size_t changed = 0; changed < lines.size(); ++changed) {
@@ -201,7 +204,7 @@ INSTANTIATE_TEST_SUITE_P(Files, Sweep,
 
 TEST_F(Sweep, Limits) {
     std::string luns = mapping("10:02");
-    std::string groups = blade.at("FC_HBA_Conditions.txt");
+    std::string groups = blade().at("FC_HBA_Conditions.txt");
     std::string ports;
     for (int i = 0; i < 500; ++i) {
         luns += mapping("").substr(20);
