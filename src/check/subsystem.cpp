@@ -1,6 +1,7 @@
 #include "check/subsystem.h"
 
 #include "run/diagnostics.h"
+#include "run/text.h"
 
 #include <string>
 
@@ -93,10 +94,6 @@ bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_e
     return false;
 }
 
-bool blank(const char* text) {
-    return text[std::strspn(text, " ")] == '\0';
-}
-
 void report_invalid(const target_mapping_entry& storage) {
     message(1, "\n");
     message(1, "\n\t\tInvaild attached storage sub-system found.\n");
@@ -130,7 +127,7 @@ int DoIndividualSubSystemCheck(const hba_info& port, fc_config_file_entry* const
     const target_mapping_entry& storage = *port.target_mapping;
     Verdict verdict;
     for (const auto* allowed = entry->periphery; allowed != nullptr; allowed = allowed->next) {
-        if (!blank(allowed->vendor) && std::strcmp(allowed->vendor, storage.vendor_id) == 0 &&
+        if (!is_blank(allowed->vendor) && std::strcmp(allowed->vendor, storage.vendor_id) == 0 &&
             check_subsystem(*allowed, storage, verdict)) {
             break;
         }

@@ -1,7 +1,6 @@
 #include "inventory/adapter_list.h"
 
 #include "inventory/report.h"
-#include "run/return_codes.h"
 
 namespace {
 
@@ -77,16 +76,6 @@ std::int32_t read_adapter_list() {
     }
     message(6, "\nSuccess, \"hbacmd listhbas\" command returned code %d.\n", status);
 
-    const TextFile report = open_report(file);
-    if (report == nullptr) {
-        return report_not_opened;
-    }
     Cursor cursor;
-    LineBuffer line;
-    while (read_line(report, line)) {
-        if (!read_list_line(line, cursor)) {
-            return RET_MEMALLOC_FAIL;
-        }
-    }
-    return RET_OK;
+    return read_report(file, [&](char* line) { return read_list_line(line, cursor); });
 }

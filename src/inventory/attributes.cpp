@@ -1,7 +1,6 @@
 #include "inventory/attributes.h"
 
 #include "inventory/report.h"
-#include "run/return_codes.h"
 
 namespace {
 
@@ -122,15 +121,5 @@ std::int32_t read_attributes(hba_info& port) {
         return RET_OK;
     }
 
-    const TextFile report = open_report(file);
-    if (report == nullptr) {
-        return report_not_opened;
-    }
-    LineBuffer line;
-    while (read_line(report, line)) {
-        if (!read_attributes_line(line, port)) {
-            return RET_MEMALLOC_FAIL;
-        }
-    }
-    return RET_OK;
+    return read_report(file, [&](char* line) { return read_attributes_line(line, port); });
 }

@@ -4,6 +4,7 @@
 
 #include "inventory/hba_info.h"
 #include "run/diagnostics.h"
+#include "run/return_codes.h"
 #include "run/text_file.h"
 
 #include <cstdint>
@@ -33,6 +34,23 @@ std::int32_t take_report(const char* lead, std::initializer_list<std::string_vie
 
 // Opens a report; when it can't be opened, says so and returns null.
 TextFile open_report(const ReportFile& file);
+
+// Opens a report and hands each line to `read_one`, which returns false when
+// memory is exhausted. Returns RET_OK, report_not_opened or RET_MEMALLOC_FAIL.
+template <class ReadOne>
+std::int32_t read_report(const ReportFile& file, ReadOne read_one) {
+    const TextFile report = open_report(file);
+    if (report == nullptr) {
+        return report_not_opened;
+    }
+    LineBuffer line;
+    while (read_line(report, line)) {
+        if (!read_one(line)) {
+            return RET_MEMALLOC_FAIL;
+        }
+    }
+    return RET_OK;
+}
 
 // One row of a report's table: lines that begin with `text`, and not with
 // `unless`, belong to it.

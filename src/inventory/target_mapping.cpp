@@ -1,7 +1,6 @@
 #include "inventory/target_mapping.h"
 
 #include "inventory/report.h"
-#include "run/return_codes.h"
 
 namespace {
 
@@ -67,16 +66,6 @@ std::int32_t read_target_mapping(hba_info& port) {
         return RET_OK;
     }
 
-    const TextFile report = open_report(file);
-    if (report == nullptr) {
-        return report_not_opened;
-    }
-    LineBuffer line;
     std::int32_t number = 0;
-    while (read_line(report, line)) {
-        if (!read_mapping_line(line, ++number, port)) {
-            return RET_MEMALLOC_FAIL;
-        }
-    }
-    return RET_OK;
+    return read_report(file, [&](char* line) { return read_mapping_line(line, ++number, port); });
 }

@@ -3,22 +3,19 @@
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
 #include "run/diagnostics.h"
+#include "run/text.h"
 
 #include <cstring>
 #include <string>
 
 namespace {
 
-bool blank(const char* text) {
-    return text[std::strspn(text, " ")] == '\0';
-}
-
 void list_entry(const fc_config_file_entry& entry) {
     message(4, "%-10s %-16s\n", entry.vendor, entry.model);
     int count = 0;
     for (const auto* subsystem = entry.periphery; subsystem != nullptr;
          subsystem = subsystem->next) {
-        if (!blank(subsystem->vendor)) {
+        if (!is_blank(subsystem->vendor)) {
             message(4, "\t\t%d) %-10s %-16s\n", ++count, subsystem->vendor, subsystem->models);
         }
     }

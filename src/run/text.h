@@ -27,6 +27,11 @@ inline bool begins_with(const char* text, std::string_view prefix) {
     return std::strncmp(text, prefix.data(), prefix.size()) == 0;
 }
 
+// Whether a text is empty or consists of blanks only.
+inline bool is_blank(const char* text) {
+    return text[std::strspn(text, " ")] == '\0';
+}
+
 // Reads `text` as a number in `base` (10 or 16); trailing blanks and newlines
 // are cut off in place. Returns the value cut to 32 bits, negated behind a
 // leading minus sign; -1 for an empty text and all ones before the negation for
