@@ -23,17 +23,26 @@ constexpr std::string_view plain_characters = "abcdefghijklmnopqrstuvwxyz"
                                               "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                               "0123456789%+,-./:=@_";
 
-// Becomes the shell. It reacts to a closed pipe in the default way, which the
-// tool itself does not; signals that are held back are ignored as well, since a
-// shell may clear the mask that it inherits.
-[[noreturn]] void become_shell(const char* text) {
-    static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
+// Whether the signals that would end the run are held back.
+bool signals_held() {
     sigset_t held;
     sigprocmask(SIG_BLOCK, nullptr, &held);
-    for (const int signal : SignalHold::signals) {
-        if (sigismember(&held, signal) == 1) {
+    return sigismember(&held, SIGINT) == 1;
+}
+
+// Becomes the shell. When signals are held back, nothing may break the command
+// off: some shells clear the mask that they inherit, so it gets a session of its
+// own, out of reach of the terminal and of the tool's process group, and ignores
+// what comes all the same, a closed pipe included.
+[[noreturn]] void become_shell(const char* text) {
+    if (signals_held()) {
+        setsid();
+        for (const int signal : SignalHold::signals) {
             static_cast<void>(std::signal(signal, SIG_IGN));
         }
+    } else {
+        // The tool itself ignores a closed pipe.
+        static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
     }
     execl("/bin/sh", "sh", "-c", text, static_cast<char*>(nullptr));
     _exit(127);

@@ -1,6 +1,6 @@
 // The adapter vendor's command-line interface, and the one place that starts
-// it. Everything that the tool puts into a command line comes from reports that
-// another program wrote, so every value goes through shell_word first.
+// it. The values of a command line come from outside the tool, most of them from
+// reports that another program wrote, so each goes through shell_word first.
 #pragma once
 
 #include <cstdint>

@@ -3,6 +3,8 @@
 #include <cstdio>
 
 SignalHold::SignalHold() {
+    // A reader who is slow to take the messages must not make a signal wait.
+    static_cast<void>(std::fflush(nullptr));
     sigset_t held;
     sigemptyset(&held);
     for (const int signal : signals) {

@@ -4,8 +4,8 @@
 #include <csignal>
 
 // While it lives, Ctrl-C, Ctrl-\, a hang-up of the terminal and a polite kill
-// wait, for the processes started meanwhile too. At its end the messages are
-// flushed and a signal that came takes its effect.
+// wait, and the command that is run meanwhile (run_command) is kept from them. At
+// its end the messages are flushed and a signal that came takes its effect.
 class SignalHold {
 public:
     static constexpr int signals[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};

@@ -234,14 +234,23 @@ Ports without a serial number are told of, once for each selection entry.
   \t\tPort index: 0; Ignore this port due to missing serial number  => SKIP. (esc)
 
 A signal waits for the download that runs: it is finished, and its result told,
-before the tool ends, ahead of the next one.
+before the tool ends, ahead of the next one. Neither a CLI with handlers of its
+own nor one whose reader has gone is broken off.
 
+  $ cat >group.py <<'EOF'
+  > import os, sys
+  > os.setpgid(0, 0)
+  > open("cli/pid", "w").write(str(os.getpid()))
+  > os.execv(sys.argv[1], sys.argv[1:])
+  > EOF
   $ interrupted() {
-  >     lay_standin && echo "kill -$1 \$(cat cli/pid) \$PPID \$\$; sleep 0.3; echo finished >>cli/calls.log" >cli/call18
-  >     sh -c 'echo $$ >cli/pid; exec "$0" "$@"' "$CNATOOL_STANDIN" --conpath blade $flash >out 2>&1; echo "=> $?"
+  >     lay_standin && echo "$1; echo finished >>cli/calls.log" >cli/call18
+  >     python3 group.py "$CNATOOL_STANDIN" --conpath blade $flash >out 2>&1; echo "=> $?"
   >     grep "flash command returned" out; downloads
   > }
-  $ for signal in INT TERM HUP; do interrupted $signal; done 2>/dev/null
+  $ for signal in INT TERM HUP QUIT; do
+  >     interrupted "kill -s $signal -- -\$(cat cli/pid) \$PPID \$\$; sleep 0.2"
+  > done 2>/dev/null
   => 130
   \t\tSuccess, flash command returned code 0. (esc)
   download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]
@@ -254,6 +263,30 @@ before the tool ends, ahead of the next one.
   \t\tSuccess, flash command returned code 0. (esc)
   download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]
   finished
+  => 131
+  \t\tSuccess, flash command returned code 0. (esc)
+  download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]
+  finished
+  $ cat >handlers.py <<'EOF'
+  > import os, signal, sys, time
+  > for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+  >     signal.signal(number, lambda *_: os._exit(9))
+  > os.kill(-int(open("cli/pid").read()), signal.SIGINT)
+  > time.sleep(0.3)
+  > EOF
+  $ interrupted "$(command -v python3) handlers.py || exit 9" 2>/dev/null
+  => 130
+  \t\tSuccess, flash command returned code 0. (esc)
+  download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]
+  finished
+  $ lay_standin && echo 'sleep 0.2; echo progress >&2 || :; echo finished >>cli/calls.log' >cli/call18
+  $ (real $flash 2>&1; echo "=> $?" >status) | head -n 1; cat status; downloads
+  \tInstalled controller-device: (esc)
+  => 0
+  download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]
+  finished
+  download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-bios-4.6.141.grp]
+  download [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]
 
 The inventory's commands can be interrupted.
 
