@@ -16,7 +16,7 @@ install(FILES packaging/FC_HBA_Conditions.txt DESTINATION ${home})
 install(FILES man/cnatool.8 DESTINATION usr/share/man/man8)
 install(FILES man/FC_HBA_Conditions.txt.5 DESTINATION usr/share/man/man5)
 install(FILES completion/cnatool DESTINATION usr/share/bash-completion/completions)
-install(FILES README.md docs/automation.md DESTINATION ${doc})
+install(FILES docs/automation.md DESTINATION ${doc})
 install(DIRECTORY examples/blade DESTINATION ${doc}/examples
   FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
@@ -27,6 +27,7 @@ set(CPACK_PACKAGE_VENDOR "The cnatool founders")
 set(CPACK_PACKAGE_CONTACT "The cnatool founders <root@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY
   "Check and flash the converged network adapters of a blade server")
+set(CPACK_RPM_PACKAGE_DESCRIPTION ${CPACK_PACKAGE_DESCRIPTION_SUMMARY})
 set(CPACK_PACKAGING_INSTALL_PREFIX /)
 set(CPACK_STRIP_FILES ON)
 

@@ -22,21 +22,22 @@ for host in storage bad good; do
     echo "$host ansible_connection=local ansible_python_interpreter=/usr/bin/python3"
 done >>"$scratch/inventory"
 
+# Files and traces are given as from the current directory, like anyone would.
+repository=$PWD
+cd "$scratch"
 play() {
-    ANSIBLE_HOME=$scratch/ansible ANSIBLE_LOCALHOST_WARNING=false LC_ALL=C.UTF-8 \
-        ansible-playbook -i "$scratch/inventory" contrib/ansible/cnatool.yml \
+    ANSIBLE_HOME=$scratch/ansible ANSIBLE_REMOTE_TMP=$scratch/tmp ANSIBLE_LOCALHOST_WARNING=false LC_ALL=C.UTF-8 \
+        ansible-playbook -i inventory "$repository/contrib/ansible/cnatool.yml" \
         -e "cnatool_home=$scratch/{{ inventory_hostname }}" -e cnatool_become=false -e cnatool_simulate=true -e cnatool_batch=1 \
-        -e "cnatool_conditions=$scratch/FC_HBA_Conditions.txt" \
-        -e "cnatool_images=$scratch/images" -e "cnatool_traces=$scratch/traces" \
         "$@" >"$scratch/log" 2>&1 </dev/null
 }
 
 play --limit good,storage || fail "the good host fails"
 grep -q 'storage is left out: the check ended with 4' "$scratch/log" || fail "storage passes"
-[ -s "$scratch/traces/good$scratch/good/FWtrace.out" ] || fail "no trace is collected"
-[ ! -e "$scratch/traces/storage" ] || fail "a host that is left out is flashed"
+[ -s "$scratch/fwtrace/good$scratch/good/FWtrace.out" ] || fail "no trace is collected"
+[ ! -e "$scratch/fwtrace/storage" ] || fail "a host that is left out is flashed"
 
-rm -r "$scratch/traces"
+rm -r "$scratch/fwtrace"
 ! play || fail "a flash without an image passes"
-[ -s "$scratch/traces/bad$scratch/bad/FWtrace.out" ] || fail "no trace of the failure is collected"
+[ -s "$scratch/fwtrace/bad$scratch/bad/FWtrace.out" ] || fail "no trace of the failure is collected"
 ! grep -q '^ok: \[good\]' "$scratch/log" || fail "the play goes on behind the failure"

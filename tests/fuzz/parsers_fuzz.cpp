@@ -104,11 +104,8 @@ std::FILE* __wrap_fdopen(int descriptor, const char* mode) {
 }
 
 int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-    char name[] = "/tmp/cnatool_fuzz_XXXXXX";
-    if (mkdtemp(name) == nullptr) {
-        std::abort();
-    }
-    directory = std::string(name) + "/";
+    const char* const scratch = std::getenv("TMPDIR");
+    directory = std::string(scratch == nullptr ? "/tmp" : scratch) + "/";
     copy_text(pHBAWorkingPath, directory);
     active_option_simulate = 1;
     VerboseLevel = 6;

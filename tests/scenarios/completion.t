@@ -11,11 +11,13 @@ excludes, nothing twice, and information only alone.
   $ complete_words ''
   --check-for-valid-subsystem --conpath --ctrl-vendor-wide-identical --ctrl-wide-identical --flash --help --hiddenhelp --info --qmr-mode --show-return-code --show-return-codes --silent --simulate --version -? -d -dev -h -mod -pci-id -subdev -subvid -v -vid -vn
   $ complete_words -v 2 --flash -vid 19A2 ''
-  --check-for-valid-subsystem --conpath --ctrl-vendor-wide-identical --ctrl-wide-identical --qmr-mode --simulate -dev -subdev -subvid
+  --check-for-valid-subsystem --conpath --ctrl-vendor-wide-identical --ctrl-wide-identical --qmr-mode --silent --simulate -dev -pci-id -subdev -subvid
   $ complete_words -d 6 --s
-  --simulate
+  --silent --simulate
   $ complete_words -vn Emulex -
-  --check-for-valid-subsystem --conpath --ctrl-vendor-wide-identical --ctrl-wide-identical --flash --qmr-mode --silent --simulate -d -mod
+  --check-for-valid-subsystem --conpath --ctrl-vendor-wide-identical --ctrl-wide-identical --flash --qmr-mode --silent --simulate -d -mod -pci-id -v
+  $ complete_words -pci-id 1:2 -
+  --check-for-valid-subsystem --conpath --ctrl-vendor-wide-identical --ctrl-wide-identical --flash --qmr-mode --silent --simulate -d -dev -mod -subdev -subvid -v -vid -vn
   $ complete_words -v ''
   0 1 2 3 4 5 6
   $ complete_words --conpath b

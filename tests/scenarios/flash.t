@@ -238,8 +238,10 @@ before the tool ends, ahead of the next one. Neither a CLI with handlers of its
 own nor one whose reader has gone is broken off.
 
   $ cat >group.py <<'EOF'
-  > import os, sys
+  > import os, signal, sys
   > os.setpgid(0, 0)
+  > for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT):
+  >     signal.signal(number, signal.SIG_DFL)
   > open("cli/pid", "w").write(str(os.getpid()))
   > os.execv(sys.argv[1], sys.argv[1:])
   > EOF
@@ -291,7 +293,7 @@ own nor one whose reader has gone is broken off.
 The inventory's commands can be interrupted.
 
   $ lay_standin && echo 'kill -INT $(cat cli/pid); sleep 0.3' >cli/call3
-  $ sh -c 'echo $$ >cli/pid; exec "$0" --conpath blade' "$CNATOOL_STANDIN" >/dev/null; echo "=> $?"; cat cli/calls.log
+  $ python3 group.py "$CNATOOL_STANDIN" --conpath blade >/dev/null; echo "=> $?"; cat cli/calls.log
   => 130
   listhbas
   hbaattributes [10:00:00:00:c9:b2:00:11]

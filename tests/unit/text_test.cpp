@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <string>
+#include <unistd.h>
 
 namespace {
 
@@ -100,16 +102,20 @@ TEST(Diagnostics, LevelsAndScreenDecideWhereAMessageGoes) {
 // The refusal is shown only where a debug run may use the screen; every line of
 // the file counts for its number, the text is the stored one.
 TEST(Conditions, RefusalNamesLineColumnAndStoredText) {
-    const std::string path = testing::TempDir() + "cnatool_conditions.txt";
+    char path[] = "/tmp/cnatool_test_XXXXXX";
+    const int descriptor = mkstemp(path);
+    ASSERT_GE(descriptor, 0);
+    close(descriptor);
     std::ofstream(path) << "# comment\n--+--\nE|M|19A2|0714|1C3E|nothex7|\n";
     VerboseLevel = 0;
     DebugLevel = 1;
     PrintDebugOnScreen = 1;
-    EXPECT_EXIT(Read_FC_Config_File(path.c_str()), testing::ExitedWithCode(55),
+    EXPECT_EXIT(Read_FC_Config_File(path), testing::ExitedWithCode(55),
                 "^\nError line 3: Sub-System-Id nothe is not a valid hex value!\n$");
     std::ofstream(path) << "E|M|19A2|\n";
-    EXPECT_EXIT(Read_FC_Config_File(path.c_str()), testing::ExitedWithCode(55),
+    EXPECT_EXIT(Read_FC_Config_File(path), testing::ExitedWithCode(55),
                 "Error line 1: Device-Id  is not a valid");
+    unlink(path);
 }
 
 } // namespace
