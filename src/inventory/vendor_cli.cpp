@@ -50,10 +50,11 @@ pid_t start_unbroken(const char* text) {
 
 // Starts the shell for any other command; spawning costs less than a fork. The
 // child reacts to a closed pipe in the default way, which the tool does not.
-pid_t start(std::string text) {
+pid_t start(const std::string& text) {
     char shell[] = "sh";
     char option[] = "-c";
-    char* words[] = {shell, option, text.data(), nullptr};
+    std::string command = text;
+    char* words[] = {shell, option, command.data(), nullptr};
     sigset_t defaults;
     sigemptyset(&defaults);
     sigaddset(&defaults, SIGPIPE);
