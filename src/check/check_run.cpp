@@ -14,17 +14,14 @@ void report_missing_serial(const hba_info& port) {
 }
 
 void check_port(const option_input& entry, const hba_info& port, global_ctrl_flags& flags) {
-    int position = 0;
-    for (auto** record = fc_config_entry_list; record != nullptr && *record != nullptr; ++record) {
-        ++position;
-        if (!describes(**record, port, names_subsystem(entry))) {
-            continue;
-        }
-        if (levels_above(5)) {
-            report_match(**record, position);
-        }
-        DoSubSystemCheck(port, *record, flags);
-    }
+    for_each_record(port, names_subsystem(entry),
+                    [&](fc_config_file_entry* const& record, int position) {
+                        if (levels_above(5)) {
+                            report_match(*record, position);
+                        }
+                        DoSubSystemCheck(port, record, flags);
+                        return 0;
+                    });
 }
 
 int result(const global_ctrl_flags& flags) {

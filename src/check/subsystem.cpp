@@ -66,15 +66,19 @@ void check_items(const char* group, const char* product, Verdict& verdict) {
     }
 }
 
+void report_storage(const target_mapping_entry& storage) {
+    message(1, "\t\t\t\t%s\n", storage.vendor_id);
+    message(1, "\t\t\t\t%s\n", storage.product_id);
+    message(1, "\t\t\t\t%s\n", storage.product_version);
+}
+
 // Judges the storage against one allowed subsystem of its vendor. Returns true
 // when that settles the matter.
 bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_entry& storage,
                      Verdict& verdict) {
     message(1, "\n");
     message(1, "\t\tAttached storage sub-system:\n");
-    message(1, "\t\t\t\t%s\n", storage.vendor_id);
-    message(1, "\t\t\t\t%s\n", storage.product_id);
-    message(1, "\t\t\t\t%s\n", storage.product_version);
+    report_storage(storage);
     if (allowed.models[0] == '\0') {
         verdict.found = true;
     } else {
@@ -97,9 +101,7 @@ bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_e
 void report_invalid(const target_mapping_entry& storage) {
     message(1, "\n");
     message(1, "\n\t\tInvaild attached storage sub-system found.\n");
-    message(1, "\t\t\t\t%s\n", storage.vendor_id);
-    message(1, "\t\t\t\t%s\n", storage.product_id);
-    message(1, "\t\t\t\t%s\n", storage.product_version);
+    report_storage(storage);
     message(1, "\n");
 }
 

@@ -20,17 +20,11 @@ void list_ports(const char* header, const char* first_line) {
     }
 }
 
-void release(hba_info* port) {
-    delete port->attributes;
-    delete port->target_mapping;
-    delete port;
-}
-
 void remove_fibre_channel_ports() {
     hba_info** kept = p_hba_info_list;
     for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
         if (has_type(**port, "FC")) {
-            release(*port);
+            release_hba_info_entry(*port);
         } else {
             *kept++ = *port;
         }

@@ -18,21 +18,13 @@ void report_missing_serial(const hba_info& port) {
 // The images of another subsystem of the same device could brick the adapter,
 // so all four identifiers count here, whatever the selection named.
 std::int32_t flash_port(hba_info& port, global_ctrl_flags& flags) {
-    int position = 0;
-    for (auto** record = fc_config_entry_list; record != nullptr && *record != nullptr; ++record) {
-        ++position;
-        if (!describes(**record, port, true)) {
-            continue;
-        }
+    return for_each_record(port, true, [&](fc_config_file_entry* const& record, int position) {
         if (levels_above(5)) {
             message(2, "\t%s\n\n", divider);
-            report_match(**record, position);
+            report_match(*record, position);
         }
-        if (const std::int32_t result = FlashBladeEngine(port, *record, flags); result != RET_OK) {
-            return result;
-        }
-    }
-    return RET_OK;
+        return FlashBladeEngine(port, record, flags);
+    });
 }
 
 } // namespace

@@ -23,3 +23,9 @@ hba_attributes_entry* get_new_hba_attributes_entry() {
 target_mapping_entry* get_new_target_mapping_entry() {
     return new_counted_record<target_mapping_entry>(mapping_entry_cnt);
 }
+
+void release_hba_info_entry(hba_info* port) {
+    delete port->attributes;
+    delete port->target_mapping;
+    delete port;
+}

@@ -112,6 +112,9 @@ hba_info* get_new_hba_info_entry();
 hba_attributes_entry* get_new_hba_attributes_entry();
 target_mapping_entry* get_new_target_mapping_entry();
 
+// Releases a port with the records that it owns; the caller takes it off the list.
+void release_hba_info_entry(hba_info* port);
+
 // The one-sided adapter test: `b` belongs to `a`'s adapter when b's serial
 // number is a's or a leading part of it, so an empty one matches every port.
 inline bool matches_adapter(const hba_info& b, const hba_info& a) {

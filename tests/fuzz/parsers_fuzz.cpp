@@ -30,9 +30,7 @@ std::string directory;
 
 void forget_records() {
     for (hba_info** port = p_hba_info_list; port != nullptr && *port != nullptr; ++port) {
-        delete (*port)->attributes;
-        delete (*port)->target_mapping;
-        delete *port;
+        release_hba_info_entry(*port);
     }
     std::free(p_hba_info_list);
     p_hba_info_list = nullptr;

@@ -61,7 +61,8 @@ TEST(Documents, NameEveryOptionAndNoOther) {
     }
     EXPECT_EQ(readme, option_texts());
     Texts completion;
-    for (const std::string& list : texts_in("completion/cnatool", "local offered=\"([^\"]*)\"")) {
+    for (const std::string& list :
+         texts_in("completion/cnatool", "local (?:information|others)=\"([^\"]*)\"")) {
         std::istringstream words(list);
         completion.insert(std::istream_iterator<std::string>(words), {});
     }
