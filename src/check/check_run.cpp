@@ -2,29 +2,36 @@
 
 #include "check/consistency.h"
 #include "conditions/match.h"
-#include "run/diagnostics.h"
+#include "run/base/diagnostics.h"
+#include "run/base/settings.h"
 
 namespace {
 
-void report_missing_serial(const hba_info& port) {
+void print_missing_serial(const hba_info& port) {
     message(2, "\tVendor: %s Model: %s; SN: %s port: %s function: %s\n", port.mfg, port.model,
             port.serial_no, port.port_number, port.pci_function);
     message(1, "\tNo serial number => SKIP\n");
     message(2, "%s\n", divider);
 }
 
-void check_port(const option_input& entry, const hba_info& port, global_ctrl_flags& flags) {
-    for_each_record(port, names_subsystem(entry),
-                    [&](fc_config_file_entry* const& record, int position) {
-                        if (levels_above(5)) {
-                            report_match(*record, position);
-                        }
-                        DoSubSystemCheck(port, record, flags);
-                        return 0;
-                    });
+void check_match(const Match& match, global_ctrl_flags& flags) {
+    if (serial_missing(*match.port)) {
+        if (levels_above(5)) {
+            print_missing_serial(*match.port);
+        }
+        return;
+    }
+    flags.MatchingCtrlModelInstalled = 1;
+    if (match.record == nullptr) {
+        return;
+    }
+    if (levels_above(5)) {
+        print_record(match);
+    }
+    DoSubSystemCheck(*match.port, *match.record, flags);
 }
 
-int result(const global_ctrl_flags& flags) {
+int verdict(const global_ctrl_flags& flags) {
     if (active_option_valid_subsystem != 0) {
         return flags.InvalidCtrlSubsystemCombinationFound == 0;
     }
@@ -42,18 +49,9 @@ int result(const global_ctrl_flags& flags) {
 int OverallSubSystemCheck(const option_input* selection, global_ctrl_flags& flags) {
     flags.CtrlVendorSpecificSubsystemEquality = 1;
     message(3, "\n\n%s\n%s\n", star_divider, star_divider);
-    for (const auto* entry = selection; entry != nullptr; entry = entry->next) {
-        for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
-            if (serial_missing(**port)) {
-                if (levels_above(5)) {
-                    report_missing_serial(**port);
-                }
-            } else if (selects(*entry, **port)) {
-                flags.MatchingCtrlModelInstalled = 1;
-                check_port(*entry, **port, flags);
-            }
-        }
+    for (const Match& match : match_selection(selection, Identity::as_selected)) {
+        check_match(match, flags);
     }
     message(3, "\n%s\n%s\n\n", star_divider, star_divider);
-    return result(flags);
+    return verdict(flags);
 }

@@ -1,8 +1,8 @@
 // The check run over the selection.
 #pragma once
 
-#include "run/selection.h"
-#include "run/settings.h"
+#include "run/base/result_flags.h"
+#include "run/base/selection.h"
 
 // Checks every port that the selection (null: none) names against every
 // conditions record of its PCI identity. Returns 1 when the first active check

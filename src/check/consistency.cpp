@@ -1,11 +1,18 @@
 #include "check/consistency.h"
 
 #include "check/subsystem.h"
-#include "run/diagnostics.h"
+#include "run/base/diagnostics.h"
 
 namespace {
 
-void port_line(std::int32_t level, const char* indent, const hba_info& port) {
+// One walk over the ports of an adapter.
+struct Walk {
+    fc_config_file_entry* const& entry;
+    global_ctrl_flags& flags;
+    hba_info* reference = nullptr; // the controller's: the first port that sees storage
+};
+
+void print_port(std::int32_t level, const char* indent, const hba_info& port) {
     message(level,
             "%sVendor: %s, Model: %s SerialNumber: %s PortType: %s PortNumber: %s PCI function: "
             "%s\n",
@@ -16,27 +23,26 @@ void port_line(std::int32_t level, const char* indent, const hba_info& port) {
 void announce(const hba_info& port) {
     message(1, "\n\t\t%s\n", divider);
     message(1, "\n\t\tPerform subsystem check for:\n");
-    port_line(1, "\t\t", port);
+    print_port(1, "\t\t", port);
 }
 
-void compare_with_controller(hba_info*& reference, hba_info& port, bool valid,
-                             global_ctrl_flags& flags) {
-    if (reference == nullptr) {
-        reference = &port;
+void compare_with_controller(Walk& walk, hba_info& port, bool valid) {
+    if (walk.reference == nullptr) {
+        walk.reference = &port;
         message(2, "\t\tTake this sub-system as reference-sub-system for this "
                    "controller-device.\n");
-    } else if (!valid) {
-        return;
-    } else if (NewCompareWithReferenceSystem(*reference, port)) {
+        print_port(2, "\t\t\t", port);
+    } else if (valid && NewCompareWithReferenceSystem(*walk.reference, port)) {
         message(2, "\t\tThis sub-system differs from controller specific "
                    "reference-sub-system.\n");
-        flags.CtrlSpecificSubsystemEquality = 0;
-        flags.CtrlVendorSpecificSubsystemEquality = 0;
-    } else {
+        print_port(2, "\t\t\t", port);
+        walk.flags.CtrlSpecificSubsystemEquality = 0;
+        walk.flags.CtrlVendorSpecificSubsystemEquality = 0;
+    } else if (valid) {
         message(2, "\t\tThis sub-system is consistent with controller specific "
                    "reference-sub-system (only vendor-id was checked).\n");
+        print_port(2, "\t\t\t", port);
     }
-    port_line(2, "\t\t\t", port);
 }
 
 // The controller's reference stands for the whole controller.
@@ -45,7 +51,7 @@ void compare_with_vendor(hba_info& controller, global_ctrl_flags& flags) {
         flags.VendorReferenceSubsystem = &controller;
         message(2, "\t\tTake this sub-system as reference-sub-system for vendor %s.\n",
                 controller.mfg);
-        port_line(2, "\t\t\t", controller);
+        print_port(2, "\t\t\t", controller);
         return;
     }
     const hba_info& vendor = *flags.VendorReferenceSubsystem;
@@ -66,9 +72,8 @@ void compare_with_vendor(hba_info& controller, global_ctrl_flags& flags) {
 }
 
 // Examines one port of the chain. Returns false when that ends the walk.
-bool examine(hba_info& port, fc_config_file_entry* const& entry, hba_info*& reference,
-             global_ctrl_flags& flags) {
-    if (!begins_with(port.mfg, entry->vendor) || !begins_with(port.model, entry->model)) {
+bool examine(Walk& walk, hba_info& port) {
+    if (!begins_with(port.mfg, walk.entry->vendor) || !begins_with(port.model, walk.entry->model)) {
         return true;
     }
     if (port.check_done != 0) {
@@ -84,21 +89,21 @@ bool examine(hba_info& port, fc_config_file_entry* const& entry, hba_info*& refe
         message(1, "\n");
         return true;
     }
-    const bool valid = DoIndividualSubSystemCheck(port, entry, flags) != 0;
-    compare_with_controller(reference, port, valid, flags);
+    const bool valid = DoIndividualSubSystemCheck(port, walk.entry, walk.flags) != 0;
+    compare_with_controller(walk, port, valid);
     message(1, "\n");
     if (!valid) {
-        flags.CtrlSpecificSubsystemEquality = 0;
-        flags.CtrlVendorSpecificSubsystemEquality = 0;
+        walk.flags.CtrlSpecificSubsystemEquality = 0;
+        walk.flags.CtrlVendorSpecificSubsystemEquality = 0;
         return false;
     }
-    compare_with_vendor(*reference, flags);
+    compare_with_vendor(*walk.reference, walk.flags);
     return true;
 }
 
 // Whether the walk from `first` has come back to a port that it has passed, as
 // it does on the self-link of an adapter with one FCoE port.
-bool passed(const hba_info* first, const hba_info* port, int steps) {
+bool walked_before(const hba_info* first, const hba_info* port, int steps) {
     for (const hba_info* earlier = first; steps > 0; --steps, earlier = earlier->next_port) {
         if (earlier == port) {
             return true;
@@ -116,11 +121,11 @@ bool NewCompareWithReferenceSystem(const hba_info& a, const hba_info& b) {
 
 void DoSubSystemCheck(const hba_info& port, fc_config_file_entry* const& entry,
                       global_ctrl_flags& flags) {
-    hba_info* reference = nullptr;
+    Walk walk{entry, flags};
     hba_info* const first = port.flash_port->next_port;
     hba_info* member = first;
-    for (int steps = 0; member != nullptr && !passed(first, member, steps); ++steps) {
-        if (!examine(*member, entry, reference, flags)) {
+    for (int steps = 0; member != nullptr && !walked_before(first, member, steps); ++steps) {
+        if (!examine(walk, *member)) {
             break;
         }
         member = member->next_port;

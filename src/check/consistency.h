@@ -4,9 +4,9 @@
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
-#include "run/settings.h"
+#include "run/base/result_flags.h"
 
-// Validates the storage of every port of the chain behind the port's flash port
+// Validates the storage of every port of the chain after the port's flash port
 // (which must be set) that the conditions record is for, and compares it with
 // the references of the controller and of the vendor. The result is in `flags`
 // and in the ports' check_done marks; no port is examined twice in a run.

@@ -1,30 +1,12 @@
 #include "check/subsystem.h"
 
-#include "run/diagnostics.h"
-#include "run/text.h"
+#include "run/base/diagnostics.h"
+#include "run/base/text.h"
 
+#include <ranges>
 #include <string>
 
 namespace {
-
-// Takes the text behind the last comma off `list`; `more` tells whether another
-// one stands before it.
-std::string_view take_last(std::string_view& list, bool& more) {
-    const std::size_t comma = list.rfind(',');
-    more = comma != std::string_view::npos;
-    const std::string_view item = more ? list.substr(comma + 1) : list;
-    list = more ? list.substr(0, comma) : std::string_view{};
-    return item;
-}
-
-bool is_item(std::string_view text, std::string_view group) {
-    for (bool more = true; more;) {
-        if (take_last(group, more) == text) {
-            return true;
-        }
-    }
-    return false;
-}
 
 // What one walk over the allowed subsystems found out.
 struct Verdict {
@@ -45,28 +27,30 @@ void accept(std::string_view item, Verdict& verdict) {
 // looked at only while nothing has allowed the product yet, and an empty one
 // allows nothing; an empty item before a comma allows everything.
 void check_items(const char* group, const char* product, Verdict& verdict) {
-    while (const char* const comma = std::strchr(group, ',')) {
-        const std::string item(group, comma);
-        message(1, "\t\t\tCheck subsystem: '%s' Attached subsystem: '%s'", item.c_str(), product);
+    std::vector<std::string_view> items = split(group, ',');
+    const std::string last(items.back());
+    items.pop_back();
+    for (const std::string_view item : items) {
+        message(1, "\t\t\tCheck subsystem: '%s' Attached subsystem: '%s'",
+                std::string(item).c_str(), product);
         if (begins_with(product, item)) {
             accept(item, verdict);
             return;
         }
         message(1, "\t\t\t--> Invalid subsystem!\n");
-        group = comma + 1;
     }
     if (verdict.found) {
         return;
     }
-    message(1, "\t\tCheck subsystem: '%s' Attached subsystem: '%s'", group, product);
-    if (*group != '\0' && begins_with(product, group)) {
-        accept(group, verdict);
+    message(1, "\t\tCheck subsystem: '%s' Attached subsystem: '%s'", last.c_str(), product);
+    if (!last.empty() && begins_with(product, last)) {
+        accept(last, verdict);
     } else {
         message(1, "\t\t\t--> Invalid subsystem!\n");
     }
 }
 
-void report_storage(const target_mapping_entry& storage) {
+void print_storage(const target_mapping_entry& storage) {
     message(1, "\t\t\t\t%s\n", storage.vendor_id);
     message(1, "\t\t\t\t%s\n", storage.product_id);
     message(1, "\t\t\t\t%s\n", storage.product_version);
@@ -78,7 +62,7 @@ bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_e
                      Verdict& verdict) {
     message(1, "\n");
     message(1, "\t\tAttached storage sub-system:\n");
-    report_storage(storage);
+    print_storage(storage);
     if (allowed.models[0] == '\0') {
         verdict.found = true;
     } else {
@@ -98,10 +82,10 @@ bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_e
     return false;
 }
 
-void report_invalid(const target_mapping_entry& storage) {
+void print_invalid(const target_mapping_entry& storage) {
     message(1, "\n");
     message(1, "\n\t\tInvaild attached storage sub-system found.\n");
-    report_storage(storage);
+    print_storage(storage);
     message(1, "\n");
 }
 
@@ -111,9 +95,10 @@ bool CheckModelGroupConsistency(std::string_view group, std::string_view referen
     const std::string group_text(group);
     message(1, "\tAlready identified reference subsystems: %s  Subsystem group: %s\n",
             std::string(references).c_str(), group_text.c_str());
-    for (bool more = true; more;) {
-        const std::string reference(take_last(references, more));
-        if (!is_item(reference, group)) {
+    const std::vector<std::string_view> items = split(group, ',');
+    for (const std::string_view item : split(references, ',') | std::views::reverse) {
+        const std::string reference(item);
+        if (std::ranges::find(items, item) == items.end()) {
             message(1, "\tReference subsystem '%s' not in Group: >%s< => Skip this group.\n",
                     reference.c_str(), group_text.c_str());
             return false;
@@ -140,7 +125,7 @@ int DoIndividualSubSystemCheck(const hba_info& port, fc_config_file_entry* const
     }
     flags.InvalidCtrlSubsystemCombinationFound = 1;
     if (levels_above(5)) {
-        report_invalid(storage);
+        print_invalid(storage);
     }
     return 0;
 }

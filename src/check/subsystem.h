@@ -3,7 +3,7 @@
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
-#include "run/settings.h"
+#include "run/base/result_flags.h"
 
 #include <string_view>
 

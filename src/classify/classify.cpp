@@ -2,39 +2,38 @@
 
 #include "classify/port_order.h"
 #include "inventory/hba_info.h"
-#include "run/diagnostics.h"
+#include "run/base/diagnostics.h"
 
 namespace {
 
-void list_ports(const char* header, const char* first_line) {
+// Lists the ports after `lead`, which stands directly before the first.
+void list_ports(const char* lead) {
     if (!message_shown(6)) {
         return;
     }
-    message(6, "%s", header);
-    const char* format = first_line;
-    for (int count = 0; p_hba_info_list[count] != nullptr; ++count) {
-        const hba_info& port = *p_hba_info_list[count];
-        message(6, format, count, port.model, port.port_type, port.serial_no, port.pci_function,
-                port.port_number);
-        format = "%d\t%s %s %s %s %s\n";
+    int count = 0;
+    for (const hba_info& port : all_ports()) {
+        message(6, "%s%d\t%s %s %s %s %s\n", count == 0 ? lead : "", count, port.model,
+                port.port_type, port.serial_no, port.pci_function, port.port_number);
+        ++count;
     }
 }
 
 void remove_fibre_channel_ports() {
     hba_info** kept = p_hba_info_list;
-    for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
-        if (has_type(**port, "FC")) {
-            release_hba_info_entry(*port);
+    for (hba_info& port : all_ports()) {
+        if (has_type(port, "FC")) {
+            release_hba_info_entry(&port);
         } else {
-            *kept++ = *port;
+            *kept++ = &port;
         }
     }
     *kept = nullptr;
 }
 
 bool any_port_of(const char* type) {
-    for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
-        if (has_type(**port, type)) {
+    for (const hba_info& port : all_ports()) {
+        if (has_type(port, type)) {
             return true;
         }
     }
@@ -43,10 +42,12 @@ bool any_port_of(const char* type) {
 
 } // namespace
 
-int Classify_Ctrl_List() {
-    list_ports("\n\nOriginal input list.\n", "\n%d\t%s %s %s %s %s\n");
+std::int32_t Classify_Ctrl_List() {
+    message(6, "\n\nOriginal input list.\n");
+    list_ports("\n");
     remove_fibre_channel_ports();
-    list_ports("\n\nList of CNA controller.\n", "\n%d\t%s %s %s %s %s\n");
+    message(6, "\n\nList of CNA controller.\n");
+    list_ports("\n");
 
     const bool fcoe = any_port_of("FCoE");
     const bool iscsi = any_port_of("iSCSI");
@@ -61,6 +62,7 @@ int Classify_Ctrl_List() {
     }
     order.by_type(fcoe, iscsi);
     order.by_function();
-    list_ports("\n\nTotal Result after PCI function sort.\n\n", "%d\t%s %s %s %s %s\n");
+    message(6, "\n\nTotal Result after PCI function sort.\n\n");
+    list_ports("");
     return 0;
 }

@@ -10,44 +10,42 @@ namespace {
 // begin with `digit`. Found once, not once for every port to be linked.
 std::vector<hba_info*> flash_candidates(char digit) {
     std::vector<hba_info*> candidates;
-    for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
-        if ((*port)->pci_function[0] == digit && (*port)->port_number[0] == digit &&
-            !serial_missing(**port)) {
-            candidates.push_back(*port);
+    for (hba_info& port : all_ports()) {
+        if (port.pci_function[0] == digit && port.port_number[0] == digit &&
+            !serial_missing(port)) {
+            candidates.push_back(&port);
         }
     }
     return candidates;
 }
 
-// The last matching candidate becomes the flash port, but each of them gets the
-// port into its chain.
+// Makes the last candidate of the port's adapter its flash port; each of them gets
+// an FCoE port into its chain.
 void link_to(hba_info& port, const std::vector<hba_info*>& candidates) {
-    const bool chained = begins_with(port.port_type, "FCoE");
     for (hba_info* const candidate : candidates) {
-        if (!matches_adapter(*candidate, port)) {
+        if (!serial_leads(*candidate, port)) {
             continue;
         }
         port.flash_port = candidate;
-        if (chained && candidate->next_port == nullptr) {
-            candidate->next_port = &port;
-        } else if (chained) {
-            candidate->next_port->next_port = &port;
+        if (type_begins_with(port, "FCoE")) {
+            hba_info*& second = candidate->next_port;
+            (second == nullptr ? second : second->next_port) = &port;
         }
     }
 }
 
 } // namespace
 
-int Determine_Flash_Ports() {
+std::int32_t Determine_Flash_Ports() {
     const std::vector<hba_info*> first = flash_candidates('0');
     const std::vector<hba_info*> second = flash_candidates('1');
-    for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
-        if (serial_missing(**port)) {
+    for (hba_info& port : all_ports()) {
+        if (serial_missing(port)) {
             continue;
         }
-        link_to(**port, first);
-        if ((*port)->flash_port == nullptr) {
-            link_to(**port, second);
+        link_to(port, first);
+        if (port.flash_port == nullptr) {
+            link_to(port, second);
         }
     }
     return 0;

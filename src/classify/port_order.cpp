@@ -46,7 +46,7 @@ void PortOrder::regroup(std::size_t start) {
 // The same, but only as far as the ports match the one at `base`.
 void PortOrder::regroup_adapter_of(std::size_t base) {
     const hba_info& first = *ports_[base];
-    for (std::size_t p = base; ports_[p] != nullptr && matches_adapter(first, *ports_[p]); ++p) {
+    for (std::size_t p = base; ports_[p] != nullptr && serial_leads(first, *ports_[p]); ++p) {
         if (ports_[p + 1] == nullptr) {
             return;
         }
@@ -55,21 +55,17 @@ void PortOrder::regroup_adapter_of(std::size_t base) {
 }
 
 // Brings an adapter with a port of `type` to the cursor and moves the cursor to
-// that adapter's last port. Placed::list_ended: the cursor is on the last port,
-// and it has another type.
-PortOrder::Placed PortOrder::place_adapter(std::size_t& cursor, const char* type) {
+// that adapter's last port. Returns false when there is none from the cursor on.
+bool PortOrder::place_adapter(std::size_t& cursor, const char* type) {
     if (has_type(*ports_[cursor], type)) {
         regroup(cursor);
     } else {
         std::size_t found = cursor + 1;
-        if (ports_[found] == nullptr) {
-            return Placed::list_ended;
-        }
         while (ports_[found] != nullptr && !has_type(*ports_[found], type)) {
             ++found;
         }
         if (ports_[found] == nullptr) {
-            return Placed::no;
+            return false;
         }
         swap(cursor, found);
         regroup_adapter_of(cursor);
@@ -77,19 +73,13 @@ PortOrder::Placed PortOrder::place_adapter(std::size_t& cursor, const char* type
     while (ports_[cursor + 1] != nullptr && follows(cursor + 1, cursor)) {
         ++cursor;
     }
-    return Placed::yes;
+    return true;
 }
 
 void PortOrder::by_type(bool fcoe, bool iscsi) {
     for (std::size_t cursor = 0; ports_[cursor] != nullptr && (fcoe || iscsi); ++cursor) {
-        Placed placed = Placed::no;
-        if (fcoe) {
-            placed = place_adapter(cursor, "FCoE");
-        }
-        if (placed == Placed::no && iscsi) {
-            placed = place_adapter(cursor, "iSCSI");
-        }
-        if (placed != Placed::yes) {
+        if (!(fcoe && place_adapter(cursor, "FCoE")) &&
+            !(iscsi && place_adapter(cursor, "iSCSI"))) {
             return;
         }
     }

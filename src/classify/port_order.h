@@ -1,4 +1,4 @@
-// The order of the ports. The adapter test is one-sided (matches_adapter), so
+// The order of the ports. The adapter test is one-sided (serial_leads), so
 // these are no sorts: which port is asked about which decides the result, and
 // every step is stated in positions of the array.
 #pragma once
@@ -6,10 +6,6 @@
 #include "inventory/hba_info.h"
 
 #include <cstddef>
-
-inline bool has_type(const hba_info& port, const char* type) {
-    return std::strcmp(port.port_type, type) == 0;
-}
 
 // Reorders a null-terminated array of ports in place, by exchanging slots.
 class PortOrder {
@@ -28,15 +24,13 @@ public:
     void by_function();
 
 private:
-    enum class Placed { yes, no, list_ended };
-
     [[nodiscard]] bool follows(std::size_t b, std::size_t a) const {
-        return matches_adapter(*ports_[b], *ports_[a]);
+        return serial_leads(*ports_[b], *ports_[a]);
     }
     void swap(std::size_t a, std::size_t b);
     void gather_behind(std::size_t position);
     void regroup_adapter_of(std::size_t base);
-    Placed place_adapter(std::size_t& cursor, const char* type);
+    bool place_adapter(std::size_t& cursor, const char* type);
 
     hba_info** ports_;
 

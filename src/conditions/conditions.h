@@ -2,6 +2,8 @@
 // them and the storage subsystems that may be attached to them.
 #pragma once
 
+#include "run/base/record_list.h"
+
 #include <cstdint>
 
 // A storage subsystem that a controller may see.
@@ -36,7 +38,14 @@ struct fc_config_file_entry {
 // Every record in file order, null-terminated; null as long as there is none.
 extern fc_config_file_entry** fc_config_entry_list;
 
+inline RecordRange<fc_config_file_entry> all_conditions() {
+    return {fc_config_entry_list};
+}
+
 // Make a zero-filled record; null when memory is exhausted. The first appends
 // it to fc_config_entry_list, the caller links the second to its record.
 fc_config_file_entry* get_new_config_file_entry();
 periphery_info_entry* get_new_periphery_info_entry();
+
+// Releases every record with its subsystems, and the list.
+void release_config_entry_list();

@@ -1,116 +1,155 @@
 #include "conditions/conditions_file.h"
 
 #include "conditions/conditions.h"
-#include "run/diagnostics.h"
-#include "run/return_codes.h"
-#include "run/text.h"
-#include "run/text_file.h"
+#include "run/base/diagnostics.h"
+#include "run/base/end_run.h"
+#include "run/base/return_codes.h"
+#include "run/base/text.h"
+#include "run/base/text_file.h"
 
 #include <array>
-#include <cstdlib>
+#include <string>
 
 namespace {
 
 using Entry = fc_config_file_entry;
 
-// The columns that describe the controller; an identifier also has a number and
-// the name that its refusal gives it.
+// The columns that describe the controller: where the value goes and how wide the
+// listing shows it. An identifier also has a number, and the name that its refusal
+// gives it.
 struct Column {
     std::span<char> (*field)(Entry&);
-    const char* listing;
+    int width;
     std::int32_t Entry::*number = nullptr;
     const char* name = nullptr;
 };
 
 constexpr auto columns = std::to_array<Column>({
-    {text_field<&Entry::vendor>, " %18s |"},
-    {text_field<&Entry::model>, " %16s |"},
-    {text_field<&Entry::vendor_id_str>, " %6s |", &Entry::vendor_id, "Vendor-Id"},
-    {text_field<&Entry::device_id_str>, " %6s |", &Entry::device_id, "Device-Id"},
-    {text_field<&Entry::subvendor_id_str>, " %6s |", &Entry::subvendor_id, "Sub-Vendor-Id"},
-    {text_field<&Entry::subdevice_id_str>, " %6s |", &Entry::subdevice_id, "Sub-System-Id"},
-    {text_field<&Entry::column6>, " %12s |"},
-    {text_field<&Entry::column7>, " %12s |"},
-    {text_field<&Entry::firmware_image>, " %12s |"},
-    {text_field<&Entry::bios_image>, " %12s |"},
-    {text_field<&Entry::column10>, " %12s |"},
-    {text_field<&Entry::column11>, " %12s |"},
+    {text_field<&Entry::vendor>, 18},
+    {text_field<&Entry::model>, 16},
+    {text_field<&Entry::vendor_id_str>, 6, &Entry::vendor_id, "Vendor-Id"},
+    {text_field<&Entry::device_id_str>, 6, &Entry::device_id, "Device-Id"},
+    {text_field<&Entry::subvendor_id_str>, 6, &Entry::subvendor_id, "Sub-Vendor-Id"},
+    {text_field<&Entry::subdevice_id_str>, 6, &Entry::subdevice_id, "Sub-System-Id"},
+    {text_field<&Entry::column6>, 12},
+    {text_field<&Entry::column7>, 12},
+    {text_field<&Entry::firmware_image>, 12},
+    {text_field<&Entry::bios_image>, 12},
+    {text_field<&Entry::column10>, 12},
+    {text_field<&Entry::column11>, 12},
 });
 
-// The columns behind them, which repeat for each allowed subsystem.
+// The columns after them, which repeat for each allowed subsystem; the listing
+// draws no line after the last.
 struct SubsystemColumn {
     std::span<char> (*field)(periphery_info_entry&);
-    const char* listing;
+    int width;
+    const char* line;
 };
 
 constexpr auto subsystem_columns = std::to_array<SubsystemColumn>({
-    {text_field<&periphery_info_entry::vendor>, " %12s |"},
-    {text_field<&periphery_info_entry::models>, " %18s |"},
-    {text_field<&periphery_info_entry::extra>, " %12s"},
+    {text_field<&periphery_info_entry::vendor>, 12, " |"},
+    {text_field<&periphery_info_entry::models>, 18, " |"},
+    {text_field<&periphery_info_entry::extra>, 12, ""},
 });
 
-// Converts an identifier from its whole value, so that cutting the stored text
-// never makes it another adapter's.
-void store_identifier(const Column& column, char* value, std::int32_t line_number, Entry& entry) {
+// The record that a data line becomes, while its columns are read.
+struct DataLine {
+    std::int32_t number;                       // in the file, for refusals
+    Entry* entry;                              // what it becomes
+    std::size_t column = 0;                    // the next one
+    periphery_info_entry* subsystem = nullptr; // the last of the record's chain
+};
+
+// Converts an identifier from its whole value: a text that the field cuts could
+// be another adapter's.
+void store_identifier(const Column& column, char* value, const DataLine& line) {
     const std::int32_t number = string2int(value, 16);
     if (number < 0) {
         if (DebugLevel > 0 && PrintDebugOnScreen != 0) {
-            static_cast<void>(std::fprintf(stderr,
-                                           "\nError line %d: %s %s is not a valid hex value!\n",
-                                           line_number, column.name, column.field(entry).data()));
+            static_cast<void>(
+                std::fprintf(stderr, "\nError line %d: %s %s is not a valid hex value!\n",
+                             line.number, column.name, column.field(*line.entry).data()));
         }
-        std::exit(RET_FATAL_ERROR);
+        end_run(RET_FATAL_ERROR);
     }
-    entry.*column.number = number;
+    line.entry->*column.number = number;
 }
 
-// Appends a subsystem record; `last` is the link of the chain's end. Returns
-// null when memory is exhausted.
-periphery_info_entry* append_subsystem(periphery_info_entry**& last) {
+void store_controller_column(char* value, const DataLine& line) {
+    const Column& column = columns[line.column];
+    copy_text(column.field(*line.entry), value);
+    if (column.number != nullptr) {
+        store_identifier(column, value, line);
+    }
+    message(5, " %*s |", column.width, value);
+}
+
+// Hangs a new subsystem at the end of the record's chain.
+std::int32_t append_subsystem(DataLine& line) {
     periphery_info_entry* const subsystem = get_new_periphery_info_entry();
     if (subsystem == nullptr) {
         message(1, "Could not allocate memory for new fc_periphery_info.\n");
-        return nullptr;
+        return RET_MEMALLOC_FAIL;
     }
-    *last = subsystem;
-    last = &subsystem->next;
-    return subsystem;
+    (line.subsystem == nullptr ? line.entry->periphery : line.subsystem->next) = subsystem;
+    line.subsystem = subsystem;
+    return RET_OK;
 }
 
-// Makes a record of a data line, whose first column is `text`.
-std::int32_t read_data_line(char* text, char* rest, std::int32_t line_number) {
+std::int32_t store_subsystem_column(const char* value, DataLine& line) {
+    const std::size_t position = (line.column - columns.size()) % subsystem_columns.size();
+    if (position == 0) {
+        if (const std::int32_t result = append_subsystem(line); result != RET_OK) {
+            return result;
+        }
+    }
+    const SubsystemColumn& column = subsystem_columns[position];
+    copy_text(column.field(*line.subsystem), value);
+    message(5, " %*s%s", column.width, value, column.line);
+    return RET_OK;
+}
+
+std::int32_t store_column(std::string_view text, DataLine& line) {
+    std::string copy(text);
+    char* const value = cleanString(copy.data());
+    std::int32_t result = RET_OK;
+    if (line.column < columns.size()) {
+        store_controller_column(value, line);
+    } else {
+        result = store_subsystem_column(value, line);
+    }
+    ++line.column;
+    return result;
+}
+
+// Makes a record of a line that is no comment. A line without any column, which
+// only one without a line end can be, makes none.
+std::int32_t read_data_line(std::string_view text, std::int32_t number) {
+    if (text.find_first_not_of('|') == std::string_view::npos) {
+        return RET_OK;
+    }
     Entry* const entry = get_new_config_file_entry();
     if (entry == nullptr) {
         message(1, "Could not allocate memory for new fc_config_file entry.\n");
         return RET_MEMALLOC_FAIL;
     }
-    periphery_info_entry** last = &entry->periphery;
-    periphery_info_entry* subsystem = nullptr;
-    for (std::size_t index = 0; text != nullptr; ++index, text = strtok_r(nullptr, "|", &rest)) {
-        char* const value = cleanString(text);
-        const char* listing = nullptr;
-        if (index < columns.size()) {
-            const Column& column = columns[index];
-            copy_text(column.field(*entry), value);
-            if (column.number != nullptr) {
-                store_identifier(column, value, line_number, *entry);
-            }
-            listing = column.listing;
-        } else {
-            const std::size_t position = (index - columns.size()) % subsystem_columns.size();
-            if (position == 0) {
-                subsystem = append_subsystem(last);
-            }
-            if (subsystem == nullptr) {
-                return RET_MEMALLOC_FAIL;
-            }
-            copy_text(subsystem_columns[position].field(*subsystem), value);
-            listing = subsystem_columns[position].listing;
+    DataLine line{number, entry};
+    for (const std::string_view column : split(text, '|')) {
+        // Separators in a row count as one.
+        if (column.empty()) {
+            continue;
         }
-        message(5, listing, value);
+        if (const std::int32_t result = store_column(column, line); result != RET_OK) {
+            return result;
+        }
     }
     message(5, "\n");
     return RET_OK;
+}
+
+bool is_comment(const char* line) {
+    return std::strchr(line, '#') != nullptr || std::strstr(line, "--+--") != nullptr;
 }
 
 } // namespace
@@ -123,15 +162,10 @@ std::int32_t Read_FC_Config_File(const char* path) {
     }
     LineBuffer line;
     for (std::int32_t number = 1; read_line(file, line); ++number) {
-        if (std::strchr(line, '#') != nullptr || std::strstr(line, "--+--") != nullptr) {
+        if (is_comment(line)) {
             continue;
         }
-        char* rest = nullptr;
-        char* const first = strtok_r(line, "|", &rest);
-        if (first == nullptr) {
-            continue;
-        }
-        if (const std::int32_t result = read_data_line(first, rest, number); result != RET_OK) {
+        if (const std::int32_t result = read_data_line(line, number); result != RET_OK) {
             return result;
         }
     }

@@ -1,39 +1,35 @@
-// Which ports a selection entry names, and which conditions records describe a
-// port: the PCI identities compared. Shared by the check and the flash run.
+// Which ports the selection names, and which conditions records describe them:
+// the PCI identities compared. Shared by the check and the flash run.
 #pragma once
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
-#include "run/selection.h"
+#include "run/base/selection.h"
 
 #include <cstdint>
+#include <vector>
 
-// Whether the entry names all four identifiers, or vendor and device only.
-bool names_subsystem(const option_input& entry);
+// How many identifiers a record must share with the port that it describes.
+enum class Identity : std::uint8_t {
+    as_selected, // those that the selection entry names: two or four
+    whole,       // all four
+};
 
-// Whether the entry names the port; false for a port without attributes.
-bool selects(const option_input& entry, const hba_info& port);
+// A port that concerns a run.
+struct Match {
+    hba_info* port;
+    // The slot of a record that describes the port; null for a port without a
+    // serial number, and for one that is selected but described by none.
+    fc_config_file_entry** record;
+    int position; // of the record, counted from 1 over all records
+};
 
-// Whether the record is for the port (which has attributes), by vendor and
-// device and, if asked for, by subvendor and subdevice as well.
-bool describes(const fc_config_file_entry& record, const hba_info& port, bool with_subsystem);
+// Everything that a run has to walk, in its order: for each entry of the selection
+// (null: none) and each port, in list order, a match for each record that describes
+// the port when the entry names it. A port without a serial number stands there
+// once for each entry, whether named or not; a port without attributes is never
+// named.
+std::vector<Match> match_selection(const option_input* selection, Identity identity);
 
-// Hands every record for the port to `use`, by its slot and its position counted
-// from 1. Ends at the first result other than 0 and returns it, else 0.
-template <class Use>
-std::int32_t for_each_record(const hba_info& port, bool with_subsystem, Use use) {
-    int position = 0;
-    for (auto** record = fc_config_entry_list; record != nullptr && *record != nullptr; ++record) {
-        ++position;
-        if (!describes(**record, port, with_subsystem)) {
-            continue;
-        }
-        if (const std::int32_t result = use(*record, position); result != 0) {
-            return result;
-        }
-    }
-    return 0;
-}
-
-// Reports at level 2 the record that was found, by its position counted from 1.
-void report_match(const fc_config_file_entry& record, int position);
+// Shows at level 2 the record of a match, which must have one.
+void print_record(const Match& match);

@@ -2,9 +2,10 @@
 
 #include "flash/image_search.h"
 #include "inventory/vendor_cli.h"
-#include "run/diagnostics.h"
-#include "run/return_codes.h"
-#include "run/signal_hold.h"
+#include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
+#include "run/base/settings.h"
+#include "run/base/signal_hold.h"
 
 #include <cerrno>
 #include <string>
@@ -12,34 +13,22 @@
 
 namespace {
 
-// What the two images of an adapter differ in.
+// What the messages call the two images of an adapter.
 struct ImageKind {
-    const char* look;
-    const char* found;
-    const char* start;
-    const char* gone;
+    const char* name;
+    const char* title; // the name where it begins a message
 };
 
-constexpr ImageKind firmware = {
-    "\t\tLook for firmware file: %s\n",
-    "\t\t\tFirmware file found: %s\n\n",
-    "\tNow start flashing the firmware.\n\t\tFlash command is: %s\n",
-    "\t\t\tFirmware file is not available: %s\n\n",
-};
-
-constexpr ImageKind bios = {
-    "\t\tLook for BIOS file: %s\n",
-    "\t\t\tBIOS file found: %s\n\n",
-    "\tNow start flashing the BIOS.\n\t\tFlash command is: %s\n",
-    "\t\t\tBIOS file is not available: %s\n\n",
-};
+constexpr ImageKind firmware = {"firmware", "Firmware"};
+constexpr ImageKind bios = {"BIOS", "BIOS"};
 
 bool exists(const std::string& path) {
     struct stat status {};
     return path.size() < path_capacity && stat(path.c_str(), &status) == 0;
 }
 
-// A model is text from a report; it must not lead out of the firmware directory.
+// Whether a model can be the name of a directory: text from a report must not lead
+// out of the firmware directory.
 bool names_directory(std::string_view model) {
     return model.find('/') == std::string_view::npos && model != "." && model != "..";
 }
@@ -61,7 +50,7 @@ std::string image_directory(const hba_info& port) {
 // Makes sure that an image is there before anything is written.
 std::int32_t look_for_image(const ImageKind& kind, const std::string& directory,
                             const char* pattern) {
-    message(1, kind.look, pattern);
+    message(1, "\t\tLook for %s file: %s\n", kind.name, pattern);
     char image[path_capacity];
     if (FindFlashImage(directory.c_str(), image, pattern) == RET_OK) {
         message(1, "\t\tFound BIOS- or firmware-image: %s '%s'\n", image, pattern);
@@ -79,9 +68,12 @@ std::int32_t run_flash_command(const ShellCommand& command) {
     // A half-written image bricks the adapter: signals wait until the result of
     // the command has been told.
     const SignalHold hold;
-    const std::int32_t status = run_command(command);
-    message(1, "\t\t%s, flash command returned code %d.\n\n", status == 0 ? "Success" : "Fail",
-            status);
+    const std::int32_t status = run_command(command, Interruption::deferred);
+    if (status == 0) {
+        message(1, "\t\tSuccess, flash command returned code %d.\n\n", status);
+    } else {
+        message(1, "\t\tFail, flash command returned code %d.\n\n", status);
+    }
     return status;
 }
 
@@ -91,7 +83,7 @@ std::int32_t flash_image(const ImageKind& kind, const hba_info& flash_port,
                          const std::string& directory, const char* pattern) {
     char image[path_capacity];
     if (FindFlashImage(directory.c_str(), image, pattern) != RET_OK) {
-        message(1, kind.gone, pattern);
+        message(1, "\t\t\t%s file is not available: %s\n\n", kind.title, pattern);
         return RET_OK;
     }
     if (!hbacmd_available()) {
@@ -99,13 +91,12 @@ std::int32_t flash_image(const ImageKind& kind, const hba_info& flash_port,
                 std::strerror(errno));
         return RET_SCLI_NOT_INSTALLED;
     }
-    ShellCommand command{"\n\t\t"};
-    command.text.append(hbacmd_path).append(" download ");
-    command.text.append(shell_word(flash_port.permanent_mac)).append(" ");
-    command.text.append(shell_word(image)).append(" >> ");
-    command.text.append(shell_word(directory + "/FWtrace.out")).append("\n");
-    message(1, kind.found, image);
-    message(1, kind.start, command.text.c_str());
+    const ShellCommand command =
+        hbacmd_command("\n\t\t", {"download", flash_port.permanent_mac, image}, Output::appended,
+                       directory + "/FWtrace.out", "\n");
+    message(1, "\t\t\t%s file found: %s\n\n", kind.title, image);
+    message(1, "\tNow start flashing the %s.\n\t\tFlash command is: %s\n", kind.name,
+            command.text.c_str());
     return run_flash_command(command) == 0 ? RET_OK : RET_FLASH_ERROR;
 }
 
@@ -131,7 +122,7 @@ std::int32_t flash_adapter(const hba_info& port, const fc_config_file_entry& ent
 
 } // namespace
 
-void report_flash_port(const hba_info& port) {
+void print_flashed_port(const hba_info& port) {
     message(1,
             "\t\tVendor: %s, Model: %s SerialNumber: %s PortType: %s PortNumber: %s "
             "PortFunction: %s\n",
@@ -147,7 +138,7 @@ std::int32_t FlashBladeEngine(hba_info& port, fc_config_file_entry* const& entry
         message(1, "\t%s\n", divider);
     }
     message(1, "\tInstalled controller-device:\n");
-    report_flash_port(port);
+    print_flashed_port(port);
     if (already_flashed) {
         message(1, "\t\tPort index: %d Firmware already flashed => SKIP.\n\n", port.port_index);
         port.flash_done = 1;

@@ -3,7 +3,7 @@
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
-#include "run/settings.h"
+#include "run/base/result_flags.h"
 
 #include <cstdint>
 
@@ -16,4 +16,4 @@ std::int32_t FlashBladeEngine(hba_info& port, fc_config_file_entry* const& entry
                               global_ctrl_flags& flags);
 
 // The port as the flash messages show it.
-void report_flash_port(const hba_info& port);
+void print_flashed_port(const hba_info& port);

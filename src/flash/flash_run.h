@@ -1,8 +1,8 @@
 // The flash run over the selection.
 #pragma once
 
-#include "run/selection.h"
-#include "run/settings.h"
+#include "run/base/result_flags.h"
+#include "run/base/selection.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 #include "flash/image_search.h"
 
-#include "run/return_codes.h"
-#include "run/text.h"
+#include "run/base/return_codes.h"
+#include "run/base/text.h"
 
 #include <dirent.h>
 #include <memory>
@@ -13,7 +13,7 @@ struct DirectoryCloser {
 };
 using Directory = std::unique_ptr<DIR, DirectoryCloser>;
 
-bool fits(std::string_view name, std::string_view pattern) {
+bool matches(std::string_view name, std::string_view pattern) {
     if (name.starts_with('.')) {
         return false;
     }
@@ -38,7 +38,7 @@ std::int32_t FindFlashImage(const char* directory, char (&result)[path_capacity]
     const std::size_t length = std::strlen(directory);
     while (const dirent* const entry = readdir(entries.get())) {
         const std::string_view name = entry->d_name;
-        if (length + name.size() < path_capacity && fits(name, pattern)) {
+        if (length + name.size() < path_capacity && matches(name, pattern)) {
             copy_text(result, directory);
             copy_text(std::span(result).subspan(length), name);
             return RET_OK;

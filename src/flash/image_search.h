@@ -1,7 +1,7 @@
 // Finding the firmware and BIOS images.
 #pragma once
 
-#include "run/settings.h"
+#include "run/base/settings.h"
 
 #include <cstdint>
 

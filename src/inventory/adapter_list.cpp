@@ -1,81 +1,85 @@
 #include "inventory/adapter_list.h"
 
 #include "inventory/report.h"
+#include "run/base/diagnostics.h"
 
 namespace {
 
-// A starting label's trace also takes the number of the port.
-constexpr Label<hba_info> labels[] = {
-    {.text = "Port WWN",
-     .field = text_field<&hba_info::port_wwn>,
-     .trace = "\n%d)\tPortWWN: %s\n",
-     .starts = true},
-    {.text = "Node WWN", .field = text_field<&hba_info::node_wwn>, .trace = "\tNodeWWN: %s\n"},
-    {.text = "Fabric Name",
-     .field = text_field<&hba_info::fabric_name>,
-     .trace = "\tFabric_Name: %s\n"},
-    {.text = "Permanent MAC",
-     .field = text_field<&hba_info::permanent_mac>,
-     .trace = "\n%d)\tPermanentMAC: %s\n",
-     .starts = true},
-    {.text = "Current MAC",
-     .field = text_field<&hba_info::current_mac>,
-     .trace = "\tCurrentMAC: %s\n"},
-    {.text = "Flags", .field = text_field<&hba_info::flags>, .trace = "\t%s\n"},
-    {.text = "Host Name", .field = text_field<&hba_info::host_name>, .trace = "\t%s\n"},
-    {.text = "Mfg", .field = text_field<&hba_info::mfg>, .trace = "\t%s\n"},
-    {.text = "Serial No", .field = text_field<&hba_info::serial_no>, .trace = "\t%s\n"},
-    {.text = "Port Number", .field = text_field<&hba_info::port_number>, .trace = "\t%s\n"},
-    {.text = "Mode", .unless = "Model", .field = text_field<&hba_info::mode>, .trace = "\t%s\n"},
-    {.text = "PCI Bus Number", .field = text_field<&hba_info::pci_bus_number>, .trace = "\t%s\n"},
-    {.text = "PCI Function", .field = text_field<&hba_info::pci_function>, .trace = "\t%s\n"},
-    {.text = "Port Type", .field = text_field<&hba_info::port_type>, .trace = "\t%s\n"},
-    {.text = "Model", .field = text_field<&hba_info::model>, .trace = "\t%s\n"},
+// A row of the report's table: where the value of such a line goes. Some are
+// traced by a name, and some begin the next port.
+struct Label {
+    std::string_view text;
+    std::span<char> (*field)(hba_info&);
+    const char* name = nullptr;
+    bool begins_port = false;
+};
+
+// The first row that a line begins with takes it, hence "Model" ahead of "Mode".
+constexpr Label labels[] = {
+    {"Port WWN", text_field<&hba_info::port_wwn>, "PortWWN", true},
+    {"Node WWN", text_field<&hba_info::node_wwn>, "NodeWWN"},
+    {"Fabric Name", text_field<&hba_info::fabric_name>, "Fabric_Name"},
+    {"Permanent MAC", text_field<&hba_info::permanent_mac>, "PermanentMAC", true},
+    {"Current MAC", text_field<&hba_info::current_mac>, "CurrentMAC"},
+    {"Flags", text_field<&hba_info::flags>},
+    {"Host Name", text_field<&hba_info::host_name>},
+    {"Mfg", text_field<&hba_info::mfg>},
+    {"Serial No", text_field<&hba_info::serial_no>},
+    {"Port Number", text_field<&hba_info::port_number>},
+    {"Model", text_field<&hba_info::model>},
+    {"Mode", text_field<&hba_info::mode>},
+    {"PCI Bus Number", text_field<&hba_info::pci_bus_number>},
+    {"PCI Function", text_field<&hba_info::pci_function>},
+    {"Port Type", text_field<&hba_info::port_type>},
 };
 
 // The port that the report's lines are about, and how many there were.
-struct Cursor {
-    hba_info* port = nullptr;
+struct ListedPorts {
+    hba_info* current = nullptr;
     std::int32_t count = 0;
 };
 
-// Returns false when memory is exhausted.
-bool read_list_line(char* line, Cursor& cursor) {
-    const Label<hba_info>* label = find_label<hba_info>(labels, line);
-    if (label == nullptr) {
-        return true;
-    }
-    if (label->starts) {
-        cursor.port = get_new_hba_info_entry();
-        if (cursor.port == nullptr) {
-            return false;
-        }
-        ++cursor.count;
-    }
-    const char* value = cursor.port == nullptr ? nullptr : line_value(line);
-    if (value == nullptr) {
-        return true;
-    }
-    copy_text(label->field(*cursor.port), value);
-    if (label->starts) {
-        message(6, label->trace, cursor.count, value);
+void trace(const Label& label, const char* value, std::int32_t count) {
+    if (label.begins_port) {
+        message(6, "\n%d)\t%s: %s\n", count, label.name, value);
+    } else if (label.name != nullptr) {
+        message(6, "\t%s: %s\n", label.name, value);
     } else {
-        message(6, label->trace, value);
+        message(6, "\t%s\n", value);
     }
-    return true;
+}
+
+std::int32_t read_list_line(char* line, ListedPorts& ports) {
+    const Label* const label = find_label(labels, line);
+    if (label == nullptr) {
+        return RET_OK;
+    }
+    if (label->begins_port) {
+        ports.current = get_new_hba_info_entry();
+        if (ports.current == nullptr) {
+            return RET_MEMALLOC_FAIL;
+        }
+        ++ports.count;
+    }
+    const char* const value = ports.current == nullptr ? nullptr : line_value(line);
+    if (value != nullptr) {
+        copy_text(label->field(*ports.current), value);
+        trace(*label, value, ports.count);
+    }
+    return RET_OK;
 }
 
 } // namespace
 
 std::int32_t read_adapter_list() {
     const ReportFile file = report_file("local_hba_list.out");
-    const std::int32_t status = take_report("", {"listhbas"}, file, " \n");
+    const std::int32_t status = make_report("", {"listhbas"}, file, " \n");
     if (status != 0) {
         message(4, "\nFail, \"hbacmd listhbas\" command returned code %d.\n", status);
         return RET_FATAL_ERROR;
     }
     message(6, "\nSuccess, \"hbacmd listhbas\" command returned code %d.\n", status);
 
-    Cursor cursor;
-    return read_report(file, [&](char* line) { return read_list_line(line, cursor); });
+    ListedPorts ports;
+    return read_report(file, [&](char* line) { return read_list_line(line, ports); });
 }

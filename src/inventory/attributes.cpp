@@ -1,85 +1,70 @@
 #include "inventory/attributes.h"
 
 #include "inventory/report.h"
+#include "run/base/diagnostics.h"
 
 namespace {
 
-constexpr const char* header = "HBA Attributes for";
-constexpr const char* trace = "\t\t%s\n";
+using Entry = hba_attributes_entry;
 
-constexpr Label<hba_attributes_entry> labels[] = {
-    {.text = "Host Name", .field = text_field<&hba_attributes_entry::host_name>},
-    {.text = "Manufacturer", .field = text_field<&hba_attributes_entry::manufacturer>},
-    {.text = "Serial Number",
-     .field = text_field<&hba_attributes_entry::serial_number>,
-     .trace = trace},
-    {.text = "Model",
-     .unless = "Model Desc",
-     .field = text_field<&hba_attributes_entry::model>,
-     .trace = trace},
-    {.text = "Model Desc", .field = text_field<&hba_attributes_entry::model_desc>},
-    {.text = "Node WWN", .field = text_field<&hba_attributes_entry::node_wwn>},
-    {.text = "Node Symname", .field = text_field<&hba_attributes_entry::node_symname>},
-    {.text = "HW Version", .field = text_field<&hba_attributes_entry::hw_version>, .trace = trace},
-    {.text = "FW Version", .field = text_field<&hba_attributes_entry::fw_version>, .trace = trace},
-    {.text = "Vendor Spec ID",
-     .field = text_field<&hba_attributes_entry::vendor_spec_id>,
-     .trace = trace,
-     .number = &hba_attributes_entry::vendor_spec_id_val},
-    {.text = "Number of Ports", .field = text_field<&hba_attributes_entry::number_of_ports>},
-    {.text = "Driver Name", .field = text_field<&hba_attributes_entry::driver_name>},
-    {.text = "Device ID",
-     .field = text_field<&hba_attributes_entry::device_id>,
-     .trace = trace,
-     .number = &hba_attributes_entry::device_id_val},
-    {.text = "HBA Type", .field = text_field<&hba_attributes_entry::hba_type>, .trace = trace},
-    {.text = "Operational FW",
-     .field = text_field<&hba_attributes_entry::operational_fw>,
-     .trace = trace},
-    {.text = "IEEE Address", .field = text_field<&hba_attributes_entry::ieee_address>},
-    {.text = "PXE Boot", .field = text_field<&hba_attributes_entry::pxe_boot>},
-    {.text = "Driver Version",
-     .field = text_field<&hba_attributes_entry::driver_version>,
-     .trace = trace},
-    {.text = "Board Temperature", .field = text_field<&hba_attributes_entry::board_temperature>},
-    {.text = "Function Type",
-     .field = text_field<&hba_attributes_entry::function_type>,
-     .trace = trace},
-    {.text = "Sub Device ID",
-     .field = text_field<&hba_attributes_entry::subdevice_id>,
-     .trace = trace,
-     .number = &hba_attributes_entry::subdevice_id_val},
-    {.text = "Port Number", .field = text_field<&hba_attributes_entry::port_number>},
-    {.text = "PCI Bus Number", .field = text_field<&hba_attributes_entry::pci_bus_number>},
-    {.text = "PCI Func Number", .field = text_field<&hba_attributes_entry::pci_func_number>},
-    {.text = "Sub Vendor ID",
-     .field = text_field<&hba_attributes_entry::subvendor_id>,
-     .trace = trace,
-     .number = &hba_attributes_entry::subvendor_id_val},
-    {.text = "Firmware Status", .field = text_field<&hba_attributes_entry::firmware_status>},
-    {.text = "Service Processor FW Name",
-     .field = text_field<&hba_attributes_entry::service_processor_fw_name>},
-    {.text = "ULP FW Name", .field = text_field<&hba_attributes_entry::ulp_fw_name>},
-    {.text = "IPL Filename",
-     .field = text_field<&hba_attributes_entry::ipl_filename>,
-     .trace = trace},
-    {.text = "NCSI Version", .field = text_field<&hba_attributes_entry::ncsi_version>},
-    {.text = "Start-up Boot Code Version",
-     .field = text_field<&hba_attributes_entry::startup_boot_code_version>},
-    {.text = "FCoE Universal Version",
-     .field = text_field<&hba_attributes_entry::fcoe_universal_version>},
-    {.text = "FCoE x86 BIOS Version",
-     .field = text_field<&hba_attributes_entry::fcoe_x86_bios_version>},
-    {.text = "FCoE EFI Version", .field = text_field<&hba_attributes_entry::fcoe_efi_version>},
-    {.text = "FCoE FCODE Version", .field = text_field<&hba_attributes_entry::fcoe_fcode_version>},
-    {.text = "UEFI BIOS Version", .field = text_field<&hba_attributes_entry::uefi_bios_version>},
-    {.text = "UEFI NIC Version", .field = text_field<&hba_attributes_entry::uefi_nic_version>},
-    {.text = "UEFI FCODE Version", .field = text_field<&hba_attributes_entry::uefi_fcode_version>},
-    {.text = "UEFI iSCSI Version", .field = text_field<&hba_attributes_entry::uefi_iscsi_version>},
-    {.text = "PCI Express Link Speed",
-     .field = text_field<&hba_attributes_entry::pci_express_link_speed>},
-    {.text = "PCI Express Bus Width",
-     .field = text_field<&hba_attributes_entry::pci_express_bus_width>},
+// The line that begins a record.
+constexpr std::string_view title = "HBA Attributes for";
+
+// A row of the report's table: where the value of such a line goes, whether the
+// field is traced, and where the value's hexadecimal number goes.
+struct Label {
+    std::string_view text;
+    std::span<char> (*field)(Entry&);
+    bool is_traced = false;
+    std::uint32_t Entry::*number = nullptr;
+};
+
+constexpr bool traced = true;
+
+// The first row that a line begins with takes it, hence "Model Desc" ahead of
+// "Model".
+constexpr Label labels[] = {
+    {"Host Name", text_field<&Entry::host_name>},
+    {"Manufacturer", text_field<&Entry::manufacturer>},
+    {"Serial Number", text_field<&Entry::serial_number>, traced},
+    {"Model Desc", text_field<&Entry::model_desc>},
+    {"Model", text_field<&Entry::model>, traced},
+    {"Node WWN", text_field<&Entry::node_wwn>},
+    {"Node Symname", text_field<&Entry::node_symname>},
+    {"HW Version", text_field<&Entry::hw_version>, traced},
+    {"FW Version", text_field<&Entry::fw_version>, traced},
+    {"Vendor Spec ID", text_field<&Entry::vendor_spec_id>, traced, &Entry::vendor_spec_id_val},
+    {"Number of Ports", text_field<&Entry::number_of_ports>},
+    {"Driver Name", text_field<&Entry::driver_name>},
+    {"Device ID", text_field<&Entry::device_id>, traced, &Entry::device_id_val},
+    {"HBA Type", text_field<&Entry::hba_type>, traced},
+    {"Operational FW", text_field<&Entry::operational_fw>, traced},
+    {"IEEE Address", text_field<&Entry::ieee_address>},
+    {"PXE Boot", text_field<&Entry::pxe_boot>},
+    {"Driver Version", text_field<&Entry::driver_version>, traced},
+    {"Board Temperature", text_field<&Entry::board_temperature>},
+    {"Function Type", text_field<&Entry::function_type>, traced},
+    {"Sub Device ID", text_field<&Entry::subdevice_id>, traced, &Entry::subdevice_id_val},
+    {"Port Number", text_field<&Entry::port_number>},
+    {"PCI Bus Number", text_field<&Entry::pci_bus_number>},
+    {"PCI Func Number", text_field<&Entry::pci_func_number>},
+    {"Sub Vendor ID", text_field<&Entry::subvendor_id>, traced, &Entry::subvendor_id_val},
+    {"Firmware Status", text_field<&Entry::firmware_status>},
+    {"Service Processor FW Name", text_field<&Entry::service_processor_fw_name>},
+    {"ULP FW Name", text_field<&Entry::ulp_fw_name>},
+    {"IPL Filename", text_field<&Entry::ipl_filename>, traced},
+    {"NCSI Version", text_field<&Entry::ncsi_version>},
+    {"Start-up Boot Code Version", text_field<&Entry::startup_boot_code_version>},
+    {"FCoE Universal Version", text_field<&Entry::fcoe_universal_version>},
+    {"FCoE x86 BIOS Version", text_field<&Entry::fcoe_x86_bios_version>},
+    {"FCoE EFI Version", text_field<&Entry::fcoe_efi_version>},
+    {"FCoE FCODE Version", text_field<&Entry::fcoe_fcode_version>},
+    {"UEFI BIOS Version", text_field<&Entry::uefi_bios_version>},
+    {"UEFI NIC Version", text_field<&Entry::uefi_nic_version>},
+    {"UEFI FCODE Version", text_field<&Entry::uefi_fcode_version>},
+    {"UEFI iSCSI Version", text_field<&Entry::uefi_iscsi_version>},
+    {"PCI Express Link Speed", text_field<&Entry::pci_express_link_speed>},
+    {"PCI Express Bus Width", text_field<&Entry::pci_express_bus_width>},
 };
 
 // What the CLI calls the port.
@@ -87,23 +72,41 @@ const char* port_identifier(const hba_info& port) {
     return sees_storage(port) ? port.port_wwn : port.permanent_mac;
 }
 
-// Returns false when memory is exhausted.
-bool read_attributes_line(char* line, hba_info& port) {
-    if (begins_with(line, header)) {
-        // Another heading replaces what the report said before it.
-        delete port.attributes;
-        port.attributes = get_new_hba_attributes_entry();
-        if (port.attributes == nullptr) {
-            return false;
+std::int32_t begin_record(hba_info& port) {
+    // Another title replaces what the report said before it.
+    delete port.attributes;
+    port.attributes = get_new_hba_attributes_entry();
+    if (port.attributes == nullptr) {
+        return RET_MEMALLOC_FAIL;
+    }
+    message(6, "\n\t\t%s %s\n\n", title.data(), port_identifier(port));
+    return RET_OK;
+}
+
+// A line without a colon stores nothing. The number is read from the whole value,
+// so that a cut text never stands for another adapter.
+void store_value(const Label& label, char* line, Entry& attributes) {
+    const std::span<char> field = label.field(attributes);
+    if (char* const value = line_value(line)) {
+        copy_text(field, value);
+        if (label.number != nullptr) {
+            attributes.*label.number = static_cast<std::uint32_t>(string2int(value, 16));
         }
-        message(6, "\n\t\t%s %s\n\n", header, port_identifier(port));
-        return true;
     }
-    const Label<hba_attributes_entry>* label = find_label<hba_attributes_entry>(labels, line);
+    if (label.is_traced) {
+        message(6, "\t\t%s\n", field.data());
+    }
+}
+
+std::int32_t read_attributes_line(char* line, hba_info& port) {
+    if (begins_with(line, title)) {
+        return begin_record(port);
+    }
+    const Label* const label = find_label(labels, line);
     if (label != nullptr && port.attributes != nullptr) {
-        store_and_trace(*label, line, *port.attributes);
+        store_value(*label, line, *port.attributes);
     }
-    return true;
+    return RET_OK;
 }
 
 } // namespace
@@ -111,15 +114,19 @@ bool read_attributes_line(char* line, hba_info& port) {
 std::int32_t read_attributes(hba_info& port) {
     const ReportFile file = report_file(port, "hba_attributes.out");
     const std::int32_t status =
-        take_report("\n\t\t", {"hbaattributes", port_identifier(port)}, file, "\n");
+        make_report("\n\t\t", {"hbaattributes", port_identifier(port)}, file, "\n");
     // Here every type that begins with "FC" is named by its world-wide name.
-    message(6, "\n\t\t%s, \"hbacmd hbaattributes %s\" command returned code %d.\n",
-            status == 0 ? "Success" : "Fail",
-            begins_with(port.port_type, "FC") ? port.port_wwn : port.permanent_mac, status);
+    const char* const name = type_begins_with(port, "FC") ? port.port_wwn : port.permanent_mac;
+    if (status == 0) {
+        message(6, "\n\t\tSuccess, \"hbacmd hbaattributes %s\" command returned code %d.\n", name,
+                status);
+    } else {
+        message(6, "\n\t\tFail, \"hbacmd hbaattributes %s\" command returned code %d.\n", name,
+                status);
+    }
     if (serial_missing(port)) {
         message(1, "\t\tNo serial number => SKIP!\n");
         return RET_OK;
     }
-
     return read_report(file, [&](char* line) { return read_attributes_line(line, port); });
 }

@@ -3,6 +3,6 @@
 
 #include "inventory/hba_info.h"
 
-// Takes and reads the port's report into `attributes`; a port without a serial
+// Has the CLI report the port and reads that into `attributes`; a port without a serial
 // number gets none. Returns RET_OK, report_not_opened or RET_MEMALLOC_FAIL.
 std::int32_t read_attributes(hba_info& port);

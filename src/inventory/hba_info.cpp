@@ -1,7 +1,5 @@
 #include "inventory/hba_info.h"
 
-#include "run/record_list.h"
-
 hba_info** p_hba_info_list = nullptr;
 
 namespace {
@@ -28,4 +26,10 @@ void release_hba_info_entry(hba_info* port) {
     delete port->attributes;
     delete port->target_mapping;
     delete port;
+}
+
+void release_hba_info_list() {
+    release_records(p_hba_info_list, hbainfo_entry_cnt, release_hba_info_entry);
+    hbaattributes_entry_cnt = 0;
+    mapping_entry_cnt = 0;
 }

@@ -1,11 +1,12 @@
 // The records of the inventory: one per adapter port, with its attributes and
-// the storage that it sees. They live until the process ends; only the
-// classification releases the ports that it removes.
+// the storage that it sees.
 #pragma once
 
-#include "run/text.h"
+#include "run/base/record_list.h"
+#include "run/base/text.h"
 
 #include <cstdint>
+#include <cstring>
 
 // What one port's attributes report says. Text fields keep the reported text,
 // cut to their capacity; a label that never appeared leaves its field empty.
@@ -86,7 +87,7 @@ struct hba_info {
     char mfg[64];
     char serial_no[24];      // the adapter; "n/a..." when it has none
     char port_number[6];     // on the adapter, decimal
-    std::int32_t port_index; // nothing reports it: 0
+    std::int32_t port_index; // no report tells it: 0
     char mode[16];
     char pci_bus_number[4];
     char pci_function[4]; // decimal
@@ -106,6 +107,10 @@ struct hba_info {
 // Every port, null-terminated; null as long as no port was found.
 extern hba_info** p_hba_info_list;
 
+inline RecordRange<hba_info> all_ports() {
+    return {p_hba_info_list};
+}
+
 // Make a zero-filled record; null when memory is exhausted. The first appends
 // it to p_hba_info_list, the caller links the others to their port.
 hba_info* get_new_hba_info_entry();
@@ -115,9 +120,14 @@ target_mapping_entry* get_new_target_mapping_entry();
 // Releases a port with the records that it owns; the caller takes it off the list.
 void release_hba_info_entry(hba_info* port);
 
-// The one-sided adapter test: `b` belongs to `a`'s adapter when b's serial
-// number is a's or a leading part of it, so an empty one matches every port.
-inline bool matches_adapter(const hba_info& b, const hba_info& a) {
+// Releases every port and the list.
+void release_hba_info_list();
+
+// The adapter test: whether `b`'s serial number leads `a`'s, that is, equals it or
+// a leading part of it, so that `b` counts as a port of `a`'s adapter. One-sided,
+// and true for an empty `b`. Written out, since the order of large lists asks it
+// for most pairs of ports: the library's comparison takes half as long again.
+inline bool serial_leads(const hba_info& b, const hba_info& a) {
     const char* own = a.serial_no;
     for (const char* wanted = b.serial_no; *wanted != '\0'; ++wanted, ++own) {
         if (*wanted != *own) {
@@ -131,8 +141,16 @@ inline bool serial_missing(const hba_info& port) {
     return begins_with(port.serial_no, "n/a");
 }
 
-// Whether the port has storage to report: FCoE, or plain Fibre Channel. Such a
-// port is named by its world-wide name, any other by its MAC address.
+// Whether a port's type is the whole text, or begins with it.
+inline bool has_type(const hba_info& port, const char* type) {
+    return std::strcmp(port.port_type, type) == 0;
+}
+inline bool type_begins_with(const hba_info& port, const char* type) {
+    return begins_with(port.port_type, type);
+}
+
+// Whether the port has storage to show: FCoE, or plain Fibre Channel. The CLI
+// knows such a port by its world-wide name, any other by its MAC address.
 inline bool sees_storage(const hba_info& port) {
-    return begins_with(port.port_type, "FCoE") || std::strcmp(port.port_type, "FC") == 0;
+    return type_begins_with(port, "FCoE") || has_type(port, "FC");
 }

@@ -5,16 +5,16 @@
 #include "inventory/hba_info.h"
 #include "inventory/target_mapping.h"
 #include "inventory/vendor_cli.h"
-#include "run/diagnostics.h"
-#include "run/return_codes.h"
+#include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
 
 namespace {
 
 using Stage = std::int32_t (*)(hba_info&);
 
 std::int32_t for_each_port(Stage stage) {
-    for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
-        if (const std::int32_t result = stage(**port); result != RET_OK) {
+    for (hba_info& port : all_ports()) {
+        if (const std::int32_t result = stage(port); result != RET_OK) {
             return result;
         }
     }

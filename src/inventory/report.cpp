@@ -1,7 +1,8 @@
 #include "inventory/report.h"
 
 #include "inventory/vendor_cli.h"
-#include "run/settings.h"
+#include "run/base/diagnostics.h"
+#include "run/base/settings.h"
 
 ReportFile report_file(const char* name) {
     return {std::string(pHBAWorkingPath) + "/" + name};
@@ -19,16 +20,12 @@ ReportFile report_file(const hba_info& port, const char* name) {
     return {std::move(path), inside};
 }
 
-std::int32_t take_report(const char* lead, std::initializer_list<std::string_view> words,
+std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
                          const ReportFile& file, const char* tail) {
-    ShellCommand command{lead, file.inside};
-    command.text += hbacmd_path;
-    for (const std::string_view word : words) {
-        command.text.append(" ").append(shell_word(word));
-    }
-    command.text.append(" > ").append(shell_word(file.path)).append(tail);
+    ShellCommand command = hbacmd_command(lead, words, Output::rewritten, file.path, tail);
+    command.runnable = file.inside;
     message(6, "%s", command.text.c_str());
-    return run_command(command);
+    return run_command(command, Interruption::allowed);
 }
 
 TextFile open_report(const ReportFile& file) {

@@ -1,53 +1,61 @@
 #include "inventory/target_mapping.h"
 
 #include "inventory/report.h"
+#include "run/base/diagnostics.h"
 
 namespace {
 
-constexpr const char* header = "Target Mapping for";
-constexpr const char* trace = "\t\t\t%s\n";
+using Entry = target_mapping_entry;
 
-constexpr Label<target_mapping_entry> labels[] = {
-    {.text = "FCP LUN", .field = text_field<&target_mapping_entry::fcp_lun>, .trace = trace},
-    {.text = "SCSI OS Lun",
-     .field = text_field<&target_mapping_entry::scsi_os_lun>,
-     .trace = trace},
-    {.text = "Lun Device Name",
-     .field = text_field<&target_mapping_entry::lun_device_name>,
-     .trace = trace},
-    {.text = "Vendor ID", .field = text_field<&target_mapping_entry::vendor_id>, .trace = trace},
-    {.text = "Product ID", .field = text_field<&target_mapping_entry::product_id>, .trace = trace},
-    {.text = "Product Version",
-     .field = text_field<&target_mapping_entry::product_version>,
-     .trace = trace},
-    {.text = "Type", .field = text_field<&target_mapping_entry::type>, .trace = trace},
-    {.text = "SCSI Capacity",
-     .field = text_field<&target_mapping_entry::scsi_capacity>,
-     .trace = trace},
-    {.text = "Block Size", .field = text_field<&target_mapping_entry::block_size>, .trace = trace},
+constexpr std::string_view title = "Target Mapping for";
+
+// A row of the report's table: where the value of such a line goes.
+struct Label {
+    std::string_view text;
+    std::span<char> (*field)(Entry&);
 };
 
-// The report's own heading: a colon in it says nothing about storage.
-constexpr std::int32_t heading_lines = 4;
+constexpr Label labels[] = {
+    {"FCP LUN", text_field<&Entry::fcp_lun>},
+    {"SCSI OS Lun", text_field<&Entry::scsi_os_lun>},
+    {"Lun Device Name", text_field<&Entry::lun_device_name>},
+    {"Vendor ID", text_field<&Entry::vendor_id>},
+    {"Product ID", text_field<&Entry::product_id>},
+    {"Product Version", text_field<&Entry::product_version>},
+    {"Type", text_field<&Entry::type>},
+    {"SCSI Capacity", text_field<&Entry::scsi_capacity>},
+    {"Block Size", text_field<&Entry::block_size>},
+};
 
-// Returns false when memory is exhausted.
-bool read_mapping_line(char* line, std::int32_t number, hba_info& port) {
-    if (number > heading_lines && port.target_mapping == nullptr &&
-        std::strchr(line, ':') != nullptr) {
+// The report's title takes its first lines: a colon there says nothing about
+// storage.
+constexpr int title_lines = 4;
+
+// A line without a colon stores nothing, but shows what the field holds.
+void store_value(const Label& label, char* line, Entry& storage) {
+    const std::span<char> field = label.field(storage);
+    if (const char* const value = line_value(line)) {
+        copy_text(field, value);
+    }
+    message(6, "\t\t\t%s\n", field.data());
+}
+
+std::int32_t read_mapping_line(char* line, bool below_title, hba_info& port) {
+    if (below_title && port.target_mapping == nullptr && std::strchr(line, ':') != nullptr) {
         port.target_mapping = get_new_target_mapping_entry();
         if (port.target_mapping == nullptr) {
-            return false;
+            return RET_MEMALLOC_FAIL;
         }
     }
-    if (begins_with(line, header)) {
-        message(6, "\n\t\t\t%s %s\n", header, port.port_wwn);
-        return true;
+    if (begins_with(line, title)) {
+        message(6, "\n\t\t\t%s %s\n", title.data(), port.port_wwn);
+        return RET_OK;
     }
-    const Label<target_mapping_entry>* label = find_label<target_mapping_entry>(labels, line);
+    const Label* const label = find_label(labels, line);
     if (label != nullptr && port.target_mapping != nullptr) {
-        store_and_trace(*label, line, *port.target_mapping);
+        store_value(*label, line, *port.target_mapping);
     }
-    return true;
+    return RET_OK;
 }
 
 } // namespace
@@ -58,14 +66,25 @@ std::int32_t read_target_mapping(hba_info& port) {
     }
     const ReportFile file = report_file(port, "target_mapping.out");
     const std::int32_t status =
-        take_report("\n\t\t\t", {"targetmapping", port.port_wwn}, file, "\n");
-    message(6, "\n%s, \"hbacmd targetmapping %s\" command returned code %d.\n",
-            status == 0 ? "\t\t\tSuccess" : "\n\t\t\tFail", port.port_wwn, status);
+        make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, file, "\n");
+    if (status == 0) {
+        message(6, "\n\t\t\tSuccess, \"hbacmd targetmapping %s\" command returned code %d.\n",
+                port.port_wwn, status);
+    } else {
+        message(6, "\n\n\t\t\tFail, \"hbacmd targetmapping %s\" command returned code %d.\n",
+                port.port_wwn, status);
+    }
     if (serial_missing(port)) {
         message(1, "\t\t\tNo serial number => SKIP!\n");
         return RET_OK;
     }
 
-    std::int32_t number = 0;
-    return read_report(file, [&](char* line) { return read_mapping_line(line, ++number, port); });
+    // Counted down to the first line below the title; there is no limit to a
+    // report's lines.
+    int title_left = title_lines;
+    return read_report(file, [&](char* line) {
+        const bool below_title = title_left == 0;
+        title_left -= below_title ? 0 : 1;
+        return read_mapping_line(line, below_title, port);
+    });
 }

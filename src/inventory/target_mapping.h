@@ -3,7 +3,7 @@
 
 #include "inventory/hba_info.h"
 
-// Takes and reads the report of a Fibre Channel or FCoE port into
+// Has the CLI report a Fibre Channel or FCoE port and reads that into
 // `target_mapping`, which stays null when the port sees no storage or has no
 // serial number; other ports are passed over. Returns RET_OK, report_not_opened
 // or RET_MEMALLOC_FAIL.

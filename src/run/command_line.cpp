@@ -1,143 +1,131 @@
 #include "run/command_line.h"
 
-#include "run/diagnostics.h"
+#include "run/base/diagnostics.h"
+#include "run/base/end_run.h"
+#include "run/base/return_codes.h"
+#include "run/base/settings.h"
 #include "run/directories.h"
 #include "run/help.h"
-#include "run/return_codes.h"
-#include "run/settings.h"
+#include "run/options.h"
 
-#include <cstdlib>
+#include <array>
 #include <utility>
 
 namespace {
 
-// The walk over the words: an option with a value takes the next one as well.
-struct Cursor {
-    Words words;
-    std::size_t position = 0;
+// The longest value of a selection option.
+constexpr std::size_t value_length_max = 1023;
 
-    [[nodiscard]] bool at_end() const { return position >= words.size(); }
-    char* take() { return at_end() ? nullptr : words[position++]; }
+// What the words have said so far.
+struct Parse {
+    const char* program_name;
+    Words words;
+    std::size_t position = 0;                  // of the next word
+    std::array<bool, selection_kinds> given{}; // the list options, by kind
+    const option_input* selection = nullptr;   // of the last selection option
+
+    // The next word, which an option with a value uses up; null after the last.
+    const char* next_word() { return position < words.size() ? words[position++] : nullptr; }
 };
 
-[[noreturn]] void refuse() {
-    std::exit(RET_BAD_CALL);
-}
-
-const char* take_value(const Option& option, Cursor& cursor) {
-    const char* const value = cursor.take();
+const char* read_value(const Option& option, Parse& parse) {
+    const char* const value = parse.next_word();
     if (value == nullptr) {
         message(1, "%s", option.value_missing);
-        refuse();
+        end_run(RET_BAD_CALL);
     }
     if (*value == '\0' || *value == '-') {
         message(1, "%s", option.value_unusable);
-        refuse();
+        end_run(RET_BAD_CALL);
     }
     return value;
 }
 
-std::string_view take_selection(const Option& option, const char* word, Cursor& cursor) {
-    const std::string_view value = take_value(option, cursor);
-    if (value.size() >= path_capacity) {
+std::string_view read_selection_value(const Option& option, const char* word, Parse& parse) {
+    const std::string_view value = read_value(option, parse);
+    if (value.size() > value_length_max) {
         message(1, "\n\nValue of option '%s' is too long (at most %d characters)!\n\n", word,
-                static_cast<int>(path_capacity) - 1);
-        refuse();
+                static_cast<int>(value_length_max));
+        end_run(RET_BAD_CALL);
     }
     return value;
 }
 
-void apply(const Option& option, const char* program, const char* word, Cursor& cursor,
-           Request& request) {
+void apply(const Option& option, const char* word, Parse& parse) {
     switch (option.effect) {
     case Effect::help:
-        print_help(program);
-        std::exit(RET_OK);
+        print_help(parse.program_name);
+        end_run(RET_OK);
     case Effect::tool_information:
-        print_tool_information(program);
-        std::exit(RET_OK);
+        print_tool_information(parse.program_name);
+        end_run(RET_OK);
     case Effect::version:
         print_version();
-        std::exit(RET_OK);
+        end_run(RET_OK);
     case Effect::return_codes:
         print_return_codes();
-        std::exit(RET_OK);
+        end_run(RET_OK);
     case Effect::silence:
         silence();
         break;
     case Effect::level:
-        cursor.take();
+        static_cast<void>(parse.next_word());
         break;
     case Effect::list:
-        request.selection =
-            save_list_of_ctrl_options(take_selection(option, word, cursor), option.kind);
-        request.given[option.kind] = true;
+        parse.selection =
+            save_list_of_ctrl_options(read_selection_value(option, word, parse), option.kind);
+        parse.given[option.kind] = true;
         break;
     case Effect::pci_ids:
-        request.selection = save_list_of_pci_ids(take_selection(option, word, cursor));
+        parse.selection = save_list_of_pci_ids(read_selection_value(option, word, parse));
         break;
     case Effect::directory:
-        set_directories(take_value(option, cursor));
+        set_directories(read_value(option, parse));
         break;
-    case Effect::flag:
-        request.*option.flag = true;
+    case Effect::switched_on:
+        *option.setting = 1;
         break;
     }
 }
 
-Request read_options(const char* program, Words words) {
-    Request request;
-    Cursor cursor{words};
-    while (const char* const word = cursor.take()) {
-        const Option* found = nullptr;
-        for (const Option& option : options()) {
-            if (option.matches(word, option.text)) {
-                found = &option;
-                break;
-            }
+const Option* find_option(const char* word) {
+    for (const Option& option : options()) {
+        if (option.matches(word, option.text)) {
+            return &option;
         }
-        if (found == nullptr) {
-            message(1, "\n\nInvalid argument '%s' !\n\n", word);
-            refuse();
-        }
-        apply(*found, program, word, cursor, request);
     }
-    return request;
+    return nullptr;
+}
+
+void read_options(Parse& parse) {
+    while (const char* const word = parse.next_word()) {
+        const Option* const option = find_option(word);
+        if (option == nullptr) {
+            message(1, "\n\nInvalid argument '%s' !\n\n", word);
+            end_run(RET_BAD_CALL);
+        }
+        apply(*option, word, parse);
+    }
 }
 
 // A list option that makes sense only beside another one.
 struct Need {
     SelectionKind given;
+    const char* given_option;
     SelectionKind needed;
-    const char* format;
-    const char* given_name;
-    const char* needed_name;
+    const char* needed_option;
+    const char* needed_values;
 };
 
 constexpr Need needs[] = {
-    {kind_model, kind_vendor_name,
-     "\n\nPlease, also specify vendor-names (option \"%s\")\n, if using option \"%s\"!\n", "-mod",
-     "-vn"},
-    {kind_device_id, kind_vendor_id,
-     "\n\nPlease, also specify one or more vendor-ids (option \"%s\")\n, if using option "
-     "\"%s\"!\n",
-     "-dev", "-vid"},
-    {kind_subvendor_id, kind_device_id,
-     "\n\nPlease, also specify one or more device-ids (option \"%s\")\n, if using option "
-     "\"%s\"!\n",
-     "-subvid", "-dev"},
-    {kind_subdevice_id, kind_subvendor_id,
-     "\n\nPlease, also specify one or more subvendor-ids (option \"%s\")\n, if using option "
-     "\"%s\"!\n",
-     "-subdev", "-subvid"},
-    {kind_subvendor_id, kind_subdevice_id,
-     "\n\nPlease, also specify one or more subdevice-ids (option \"%s\")\n, if using option "
-     "\"%s\"!\n",
-     "-subvid", "-subdev"},
+    {kind_model, "-mod", kind_vendor_name, "-vn", "vendor-names"},
+    {kind_device_id, "-dev", kind_vendor_id, "-vid", "one or more vendor-ids"},
+    {kind_subvendor_id, "-subvid", kind_device_id, "-dev", "one or more device-ids"},
+    {kind_subdevice_id, "-subdev", kind_subvendor_id, "-subvid", "one or more subvendor-ids"},
+    {kind_subvendor_id, "-subvid", kind_subdevice_id, "-subdev", "one or more subdevice-ids"},
 };
 
-void check_combinations(const Request& request) {
-    const auto& given = request.given;
+void check_combinations(const std::array<bool, selection_kinds>& given) {
     const bool by_id = given[kind_vendor_id] || given[kind_subvendor_id] || given[kind_device_id] ||
                        given[kind_subdevice_id];
     for (const auto& [kind, name] : {std::pair{kind_vendor_name, "-vn"}, {kind_model, "-mod"}}) {
@@ -146,34 +134,33 @@ void check_combinations(const Request& request) {
                     "\n\nCombining options \"%s\", \"%s\", \"%s\", \"%s\" together with option "
                     "\"%s\" is not supported.\t!\n",
                     "-vid", "-subvid", "-dev", "-subdev", name);
-            refuse();
+            end_run(RET_BAD_CALL);
         }
     }
     for (const Need& need : needs) {
         if (given[need.given] && !given[need.needed]) {
-            message(1, need.format, need.needed_name, need.given_name);
-            refuse();
+            message(1, "\n\nPlease, also specify %s (option \"%s\")\n, if using option \"%s\"!\n",
+                    need.needed_values, need.needed_option, need.given_option);
+            end_run(RET_BAD_CALL);
         }
     }
 }
 
-void choose_checks(Request& request) {
-    if (!request.ctrl_vendor_wide_identical && !request.ctrl_wide_identical && !request.flash) {
-        request.check_valid_subsystem = true;
+void choose_default_check() {
+    if (active_option_ctrl_vendor_wide_identical == 0 && active_option_ctrl_wide_identical == 0 &&
+        active_option_flash == 0) {
+        active_option_valid_subsystem = 1;
     }
-    active_option_simulate = request.simulate ? 1 : 0;
-    active_option_valid_subsystem = request.check_valid_subsystem ? 1 : 0;
-    active_option_ctrl_wide_identical = request.ctrl_wide_identical ? 1 : 0;
-    active_option_ctrl_vendor_wide_identical = request.ctrl_vendor_wide_identical ? 1 : 0;
 }
 
 } // namespace
 
-Request read_command_line(const char* program, Words words) {
+const option_input* read_command_line(const char* program_name, Words words) {
     normalize_words(words);
     read_levels(words);
-    Request request = read_options(program, words);
-    check_combinations(request);
-    choose_checks(request);
-    return request;
+    Parse parse{.program_name = program_name, .words = words};
+    read_options(parse);
+    check_combinations(parse.given);
+    choose_default_check();
+    return parse.selection;
 }

@@ -1,26 +1,24 @@
 #include "run/directories.h"
 
-#include "run/diagnostics.h"
-#include "run/return_codes.h"
-#include "run/settings.h"
-#include "run/text.h"
+#include "run/base/diagnostics.h"
+#include "run/base/end_run.h"
+#include "run/base/return_codes.h"
+#include "run/base/settings.h"
+#include "run/base/text.h"
 
-#include <cerrno>
-#include <climits>
 #include <cstdlib>
-#include <cstring>
-#include <span>
+#include <filesystem>
 #include <string>
-#include <string_view>
-#include <unistd.h>
+#include <system_error>
 
 namespace {
 
 std::string current_directory() {
-    char directory[PATH_MAX];
-    if (getcwd(directory, sizeof directory) == nullptr) {
-        message(1, "\n\nCannot determine the current directory: %s\n\n", std::strerror(errno));
-        std::exit(RET_BAD_CALL);
+    std::error_code error;
+    const std::filesystem::path directory = std::filesystem::current_path(error);
+    if (error) {
+        message(1, "\n\nCannot determine the current directory: %s\n\n", error.message().c_str());
+        end_run(RET_BAD_CALL);
     }
     return directory;
 }
@@ -36,16 +34,16 @@ void set_directories(const char* directory) {
     if (std::strlen(directory) > directory_length_max) {
         message(1, "\n\nPath '%s' is too long (at most %d characters)!\n\n", directory,
                 static_cast<int>(directory_length_max));
-        std::exit(RET_BAD_CALL);
+        end_run(RET_BAD_CALL);
     }
     copy_text(pHBAConditionsPath, directory);
     copy_text(pHBAFirmwarePath, directory);
     copy_text(pHBAWorkingPath, directory);
 }
 
-void settle_directories(const char* program) {
+void resolve_directories(const char* typed_program) {
     if (pHBAConditionsPath[0] == '\0') {
-        const std::string typed = program;
+        const std::string typed = typed_program;
         const std::size_t slash = typed.rfind('/');
         set_directories(slash == std::string::npos ? current_directory().c_str()
                                                    : typed.substr(0, slash).c_str());
@@ -60,7 +58,7 @@ void settle_directories(const char* program) {
     message(3, "HBA conditions file: %s\n", pHBAConditionsPath);
 }
 
-void settle_temporary_directory() {
+void resolve_temporary_directory() {
     const char* const directory = std::getenv("TMPDIR");
     if (directory == nullptr) {
         copy_text(TEMPDIR_BUFFER, "/tmp");

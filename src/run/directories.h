@@ -1,15 +1,15 @@
 // Where a run finds its files.
 #pragma once
 
-// Takes the directory of the command line for the conditions file, the images
+// Takes over the directory of the command line for the conditions file, the images
 // and the reports. One that is too long ends the process with RET_BAD_CALL.
 void set_directories(const char* directory);
 
-// Settles the three paths: the directory set before, or else the one that the
-// program was started from, `program` being its name as typed; a debug run gets its
-// log there. A directory that is too long or can't be determined ends the process
+// Resolves the three paths: the directory set before, or else the one of the
+// program as it was typed, or else the current one. A debug run gets its log
+// there. A directory that is too long or can't be determined ends the process
 // with RET_BAD_CALL.
-void settle_directories(const char* program);
+void resolve_directories(const char* typed_program);
 
-// Settles TEMPDIR_BUFFER from the environment and reports it.
-void settle_temporary_directory();
+// Resolves TEMPDIR_BUFFER from the environment and shows it.
+void resolve_temporary_directory();

@@ -7,48 +7,57 @@
 #include "flash/flash_run.h"
 #include "inventory/hba_info.h"
 #include "inventory/inventory.h"
+#include "run/base/diagnostics.h"
+#include "run/base/end_run.h"
+#include "run/base/environment.h"
+#include "run/base/result_flags.h"
+#include "run/base/return_codes.h"
+#include "run/base/settings.h"
 #include "run/command_line.h"
-#include "run/diagnostics.h"
 #include "run/directories.h"
-#include "run/process.h"
-#include "run/return_codes.h"
-#include "run/settings.h"
 #include "run/summary.h"
 
-#include <cstdlib>
 #include <cstring>
 
 namespace {
 
-const char* program_name(const char* word) {
+const char* base_name(const char* word) {
     const char* const slash = std::strrchr(word, '/');
     return slash == nullptr ? word : slash + 1;
 }
 
-void read_conditions(const char* program) {
+void start_anew() {
+    prepare_process();
+    close_debug_log();
+    set_levels(0, 1, 1);
+    reset_settings();
+}
+
+void read_conditions(const char* program_name) {
     switch (const std::int32_t result = Read_FC_Config_File(pHBAConditionsPath); result) {
     case RET_OK:
         break;
     case RET_FC_HBA_CONDITIONS_MISSING:
         message(1, "\nCann't access file %s.\n\n", pHBAConditionsPath);
-        std::exit(result);
+        end_run(result);
     case RET_MEMALLOC_FAIL:
-        message(1, "Error: %s, Memory allocation failed!\n", program);
-        std::exit(result);
+        message(1, "Error: %s, Memory allocation failed!\n", program_name);
+        end_run(result);
     default:
         message(1, "Error: Fatal error!\n");
-        std::exit(RET_FATAL_ERROR);
+        end_run(RET_FATAL_ERROR);
     }
     if (VerboseLevel > 3) {
         list_conditions();
     }
 }
 
-int none_found(const Request& request, ReturnCode code) {
-    return request.qmr_mode ? RET_OK : code;
+// The status of a run that found nothing to work on.
+std::int32_t unless_qmr_mode(std::int32_t status) {
+    return active_option_qmr_mode != 0 ? RET_OK : status;
 }
 
-void take_inventory(const Request& request, global_ctrl_flags& flags) {
+void make_inventory(global_ctrl_flags& flags) {
     flags.NoFcCtrlInstalled = 0;
     flags.VendorReferenceSubsystem = nullptr;
     // Only an absent list ends the run: what could be read is checked.
@@ -56,70 +65,83 @@ void take_inventory(const Request& request, global_ctrl_flags& flags) {
     if (p_hba_info_list == nullptr) {
         message(1, "\nNo Blade Engine was found in this system.\n\n");
         flags.NoFcCtrlInstalled = 1;
-        std::exit(none_found(request, RET_NO_FC_CTRL_INSTALLED));
+        end_run(unless_qmr_mode(RET_NO_FC_CTRL_INSTALLED));
     }
 }
 
-// A port that belongs to no adapter that could be flashed: its functions are not
-// all there, as when a kernel module is missing.
+// Ends the run at a port whose adapter has no port to flash it through: some of
+// its functions are missing, as without the kernel module that brings them.
 void check_kernel_module() {
-    for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
-        if (!serial_missing(**port) && (*port)->flash_port == nullptr) {
-            std::exit(RET_KERNEL_MODULE_MISSING);
+    for (const hba_info& port : all_ports()) {
+        if (!serial_missing(port) && port.flash_port == nullptr) {
+            end_run(RET_KERNEL_MODULE_MISSING);
         }
     }
 }
 
-// The code of the first check that failed, RET_OK when none did.
-ReturnCode failed_check(const Request& request, const global_ctrl_flags& flags) {
+// The code of the first requested check that failed, RET_OK when none did.
+std::int32_t failed_check(const global_ctrl_flags& flags) {
     if (flags.InvalidCtrlSubsystemCombinationFound != 0) {
         return RET_INVALID_CTRL_SUBSYSTEM_COMBINATION;
     }
-    if (request.ctrl_vendor_wide_identical && flags.CtrlVendorSpecificSubsystemEquality == 0) {
+    if (active_option_ctrl_vendor_wide_identical != 0 &&
+        flags.CtrlVendorSpecificSubsystemEquality == 0) {
         return RET_NOT_CTRL_VENDOR_WIDE_IDENTICAL;
     }
-    if (request.ctrl_wide_identical && flags.CtrlSpecificSubsystemEquality == 0) {
+    if (active_option_ctrl_wide_identical != 0 && flags.CtrlSpecificSubsystemEquality == 0) {
         return RET_NOT_CTRL_WIDE_IDENTICAL;
     }
     return RET_OK;
 }
 
-void flash(const Request& request, global_ctrl_flags& flags) {
-    const std::int32_t result = OverallFlashBladeEngine(request.selection, flags);
+bool check_requested() {
+    return active_option_valid_subsystem != 0 || active_option_ctrl_wide_identical != 0 ||
+           active_option_ctrl_vendor_wide_identical != 0;
+}
+
+void show_check_result(bool passed) {
+    message(3, "OverallSubSystemCheck returned: %d \n", passed);
+}
+
+void flash(const option_input* selection, global_ctrl_flags& flags) {
+    const std::int32_t result = OverallFlashBladeEngine(selection, flags);
     message(3, "\t\tOverallFlashBladeEngine returned: %d \n\n", result);
     if (result != RET_OK) {
-        std::exit(result);
+        end_run(result);
     }
 }
 
-// Runs what was asked for; a flash only after the check beside it has passed.
-void dispatch(const Request& request, global_ctrl_flags& flags) {
-    if (!request.check()) {
-        flash(request, flags);
+// Flashes only when the check has passed. A check that failed without a code of
+// its own is no reason to end here: the flash is left out.
+void check_then_flash(const option_input* selection, global_ctrl_flags& flags) {
+    if (OverallSubSystemCheck(selection, flags) != 0) {
+        flash(selection, flags);
         return;
     }
-    const bool passed = OverallSubSystemCheck(request.selection, flags) != 0;
-    if (!request.flash || !passed) {
-        message(3, "OverallSubSystemCheck returned: %d \n", passed);
-    }
-    if (!request.flash) {
-        return;
-    }
-    if (passed) {
-        flash(request, flags);
-    } else if (const ReturnCode code = failed_check(request, flags); code != RET_OK) {
-        std::exit(code);
+    show_check_result(false);
+    if (const std::int32_t code = failed_check(flags); code != RET_OK) {
+        end_run(code);
     }
 }
 
-int exit_status(const Request& request, const global_ctrl_flags& flags) {
+void dispatch(const option_input* selection, global_ctrl_flags& flags) {
+    if (!check_requested()) {
+        flash(selection, flags);
+    } else if (active_option_flash != 0) {
+        check_then_flash(selection, flags);
+    } else {
+        show_check_result(OverallSubSystemCheck(selection, flags) != 0);
+    }
+}
+
+std::int32_t exit_status(const global_ctrl_flags& flags) {
     if (flags.NoFcCtrlInstalled != 0) {
-        return none_found(request, RET_NO_FC_CTRL_INSTALLED);
+        return unless_qmr_mode(RET_NO_FC_CTRL_INSTALLED);
     }
     if (flags.MatchingCtrlModelInstalled == 0) {
-        return none_found(request, RET_NO_MATCHING_CTRL_FOUND);
+        return unless_qmr_mode(RET_NO_MATCHING_CTRL_FOUND);
     }
-    return failed_check(request, flags);
+    return failed_check(flags);
 }
 
 void reset_results(global_ctrl_flags& flags) {
@@ -131,20 +153,20 @@ void reset_results(global_ctrl_flags& flags) {
 
 } // namespace
 
-int run_tool(int argc, char** argv) {
-    prepare_process();
+void run_tool(int argc, char** argv) {
+    start_anew();
     // A caller may start a program without any word at all.
-    const char* const typed = argc > 0 ? argv[0] : "cnatool";
+    const char* const typed_program = argc > 0 ? argv[0] : "cnatool";
+    const char* const program_name = base_name(typed_program);
     const Words words(argv + 1, argc > 0 ? static_cast<std::size_t>(argc) - 1 : 0);
-    const char* const program = program_name(typed);
-    const Request request = read_command_line(program, words);
+    const option_input* const selection = read_command_line(program_name, words);
 
-    settle_temporary_directory();
-    settle_directories(typed);
-    read_conditions(program);
+    resolve_temporary_directory();
+    resolve_directories(typed_program);
+    read_conditions(program_name);
 
     global_ctrl_flags flags{};
-    take_inventory(request, flags);
+    make_inventory(flags);
     Classify_Ctrl_List();
     Determine_Flash_Ports();
     check_kernel_module();
@@ -156,9 +178,9 @@ int run_tool(int argc, char** argv) {
     if (levels_above(5)) {
         list_flags("\n", flags);
     }
-    dispatch(request, flags);
+    dispatch(selection, flags);
     if (levels_above(5)) {
         list_flags("", flags);
     }
-    return exit_status(request, flags);
+    end_run(exit_status(flags));
 }

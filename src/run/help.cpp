@@ -1,15 +1,21 @@
 #include "run/help.h"
 
-#include "run/diagnostics.h"
-#include "run/return_codes.h"
+#include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
+
+#include <iterator>
 
 namespace {
 
-// The version, field by field.
-constexpr int version[] = {1, 0, 1, 0};
+// The version, field by field, as the build tells it.
+constexpr int version[] = {CNATOOL_VERSION};
+static_assert(std::size(version) == 4);
+
+constexpr char versionMessageBuild[] = "%d.%d.%d.%d\n";
+constexpr char ToolInfoMessageBuild[] = "\n%s version %d.%d.%d.%d\n";
 
 // The texts of the help; each takes the program name. They hold real tabs.
-constexpr const char* helpMessage_1 = R"help(
+constexpr char helpMessage_1[] = R"help(
 USAGE:	 %s [ options ]
 
 Options
@@ -61,7 +67,7 @@ Options
 
 )help";
 
-constexpr const char* helpMessage_2 = R"help(Examples:
+constexpr char helpMessage_2[] = R"help(Examples:
 
 1) %s -v 1 -pci-id "19A2:0700,19A2:0710:1C3E:11C1" -check-for-valid-subsystem
 
@@ -75,7 +81,7 @@ Checks, whether valid and supported storage-sub-systems are attached.
 
 )help";
 
-constexpr const char* helpMessage_3 =
+constexpr char helpMessage_3[] =
     R"help(2) %s -v 6 -pci-id "19A2:0714"  -ctrl-vendor-wide-identical
 
 Checks, whether all Emulex FCoE controller are attached to valid, supported and
@@ -87,12 +93,11 @@ identical storage-sub-systems.
 } // namespace
 
 void print_version() {
-    message(1, "%d.%d.%d.%d\n", version[0], version[1], version[2], version[3]);
+    message(1, versionMessageBuild, version[0], version[1], version[2], version[3]);
 }
 
 void print_tool_information(const char* program) {
-    message(1, "\n%s version %d.%d.%d.%d\n", program, version[0], version[1], version[2],
-            version[3]);
+    message(1, ToolInfoMessageBuild, program, version[0], version[1], version[2], version[3]);
 }
 
 void print_help(const char* program) {
@@ -103,5 +108,5 @@ void print_help(const char* program) {
 }
 
 void print_return_codes() {
-    message(1, "\nList of possible return codes\n%s", return_message().c_str());
+    message(1, "\nList of possible return codes\n%s", returnMessage().c_str());
 }

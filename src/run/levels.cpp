@@ -1,34 +1,28 @@
 #include "run/levels.h"
 
-#include "run/diagnostics.h"
-#include "run/return_codes.h"
-#include "run/text.h"
-
-#include <cstdlib>
+#include "run/base/diagnostics.h"
+#include "run/base/end_run.h"
+#include "run/base/return_codes.h"
+#include "run/base/text.h"
 
 namespace {
-
-void set_levels(std::int32_t debug, std::int32_t verbose, std::int32_t screen) {
-    DebugLevel = debug;
-    VerboseLevel = verbose;
-    PrintDebugOnScreen = screen;
-}
 
 bool contains(std::string_view word, std::string_view text) {
     return word.find(text) != std::string_view::npos;
 }
 
-// The level behind a level word; a word or a level that can't be accepted ends
-// the process with the refusal.
-std::int32_t read_level(std::string_view word, char* value, const char* refusal) {
+// The level that follows a level word as its `value` (null: no word follows).
+// `name` and `letter` tell the refusal, which ends the run, of which kind it is.
+std::int32_t read_level(std::string_view word, char* value, const char* name, char letter) {
     if (word.size() == 2 && value != nullptr && *value != '\0' && *value != '-') {
         const std::int32_t level = string2int(value, 10);
         if (level >= level_min && level <= level_max) {
             return level;
         }
     }
-    message(1, refusal, level_min, level_max);
-    std::exit(RET_BAD_CALL);
+    message(1, "Please enter a valid %s-level (-%c <%s-level>; min %d - max %d)!\n", name, letter,
+            name, level_min, level_max);
+    end_run(RET_BAD_CALL);
 }
 
 } // namespace
@@ -69,15 +63,11 @@ void read_levels(Words words) {
         if (is_silent_word(words[i])) {
             silence();
         } else if (is_debug_word(words[i])) {
-            DebugLevel = read_level(
-                words[i], next,
-                "Please enter a valid debug-level (-d <debug-level>; min %d - max %d)!\n");
+            DebugLevel = read_level(words[i], next, "debug", 'd');
             debug_given = true;
             ++i;
         } else if (is_verbose_word(words[i])) {
-            VerboseLevel = read_level(
-                words[i], next,
-                "Please enter a valid verbose-level (-v <verbose-level>; min %d - max %d)!\n");
+            VerboseLevel = read_level(words[i], next, "verbose", 'v');
             PrintDebugOnScreen = VerboseLevel > 0 ? 1 : 0;
             verbose_given = true;
             ++i;
@@ -86,7 +76,7 @@ void read_levels(Words words) {
     if (verbose_given && debug_given) {
         set_levels(0, 1, 1);
         message(1, "\nUsing options %s and %s simultaneously is not supported!\n", "--debug", "-v");
-        std::exit(RET_BAD_CALL);
+        end_run(RET_BAD_CALL);
     }
     if (debug_given) {
         VerboseLevel = 0;

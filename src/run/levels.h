@@ -8,7 +8,7 @@
 constexpr int level_min = 0;
 constexpr int level_max = 6;
 
-// The words behind the program name.
+// The words after the program name.
 using Words = std::span<char*>;
 
 bool is_silent_word(std::string_view word);

@@ -1,12 +1,13 @@
+#include "run/base/end_run.h"
+#include "run/base/return_codes.h"
 #include "run/driver.h"
-#include "run/return_codes.h"
 
 #include <new>
 
 int main(int argc, char** argv) {
     try {
-        return run_tool(argc, argv);
+        run_tool(argc, argv);
     } catch (const std::bad_alloc&) {
-        return RET_MEMALLOC_FAIL;
+        end_run(RET_MEMALLOC_FAIL);
     }
 }

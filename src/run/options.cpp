@@ -1,4 +1,7 @@
-#include "run/command_line.h"
+#include "run/options.h"
+
+#include "run/base/settings.h"
+#include "run/levels.h"
 
 namespace {
 
@@ -22,10 +25,10 @@ bool debug(std::string_view word, std::string_view /*text*/) {
     return is_debug_word(word);
 }
 
-constexpr Option flag_option(std::string_view text,
-                             bool (*matches)(std::string_view, std::string_view),
-                             bool Request::*flag) {
-    return {.text = text, .matches = matches, .effect = Effect::flag, .flag = flag};
+constexpr Option switch_option(std::string_view text,
+                               bool (*matches)(std::string_view, std::string_view),
+                               std::int32_t& setting) {
+    return {.text = text, .matches = matches, .effect = Effect::switched_on, .setting = &setting};
 }
 
 constexpr Option list_option(std::string_view text,
@@ -50,7 +53,7 @@ constexpr const char* no_vendor_name =
 constexpr const char* no_directory =
     "Please enter a path for file FC_HBA_Conditions.txt and/or HBA firmware!\n";
 
-// Matching is by containment for most options, so the order decides.
+// Most words need only contain the option's text, so the order decides.
 constexpr Option table[] = {
     {.text = "-?", .matches = exactly, .effect = Effect::help},
     {.text = "-h", .matches = exactly, .effect = Effect::help},
@@ -84,14 +87,15 @@ constexpr Option table[] = {
      .effect = Effect::directory,
      .value_missing = no_directory,
      .value_unusable = no_directory},
-    flag_option("--check-for-valid-subsystem", containing, &Request::check_valid_subsystem),
-    flag_option("--ctrl-wide-identical", containing, &Request::ctrl_wide_identical),
-    flag_option("--ctrl-vendor-wide-identical", exactly, &Request::ctrl_vendor_wide_identical),
-    flag_option("--flash", exactly, &Request::flash),
-    flag_option("--simulate", exactly, &Request::simulate),
+    switch_option("--check-for-valid-subsystem", containing, active_option_valid_subsystem),
+    switch_option("--ctrl-wide-identical", containing, active_option_ctrl_wide_identical),
+    switch_option("--ctrl-vendor-wide-identical", exactly,
+                  active_option_ctrl_vendor_wide_identical),
+    switch_option("--flash", exactly, active_option_flash),
+    switch_option("--simulate", exactly, active_option_simulate),
     {.text = "--show-return-codes", .matches = exactly, .effect = Effect::return_codes},
     {.text = "--show-return-code", .matches = exactly, .effect = Effect::return_codes},
-    flag_option("--qmr-mode", beginning, &Request::qmr_mode),
+    switch_option("--qmr-mode", beginning, active_option_qmr_mode),
 };
 
 } // namespace

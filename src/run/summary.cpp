@@ -2,10 +2,9 @@
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
-#include "run/diagnostics.h"
-#include "run/text.h"
+#include "run/base/diagnostics.h"
+#include "run/base/text.h"
 
-#include <cstring>
 #include <string>
 
 namespace {
@@ -39,8 +38,8 @@ void list_conditions() {
     message(4, "\n%s\n", star_divider);
     message(4, "\nList of allowed Fibre-Channel-Controller and Online-Storage-System "
                "combinations:\n\n");
-    for (auto** entry = fc_config_entry_list; entry != nullptr && *entry != nullptr; ++entry) {
-        list_entry(**entry);
+    for (const fc_config_file_entry& entry : all_conditions()) {
+        list_entry(entry);
     }
     message(4, "\n%s\n", star_divider);
 }
@@ -49,9 +48,9 @@ void list_controllers() {
     const std::string stars(80, '*');
     message(3, "\n%s \n", stars.c_str());
     message(3, "\nList of Fibre-Channel-Controller and attached Online-Storage-Systems:\n\n");
-    for (hba_info** port = p_hba_info_list; *port != nullptr; ++port) {
-        if (std::strcmp((*port)->port_type, "FCoE") == 0) {
-            list_controller(**port);
+    for (const hba_info& port : all_ports()) {
+        if (has_type(port, "FCoE")) {
+            list_controller(port);
         }
     }
     message(3, "\n%s\n", stars.c_str());

@@ -1,7 +1,7 @@
 // The listings that the driver writes at the higher levels.
 #pragma once
 
-#include "run/settings.h"
+#include "run/base/result_flags.h"
 
 // The conditions records with their allowed subsystems.
 void list_conditions();

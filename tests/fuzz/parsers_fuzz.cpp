@@ -1,51 +1,26 @@
 // Fuzz target over the three report parsers and the conditions reader. The first
-// byte of an input chooses the parser, the rest is its file. A parser that ends
-// the process on bad input comes back here instead: the target is linked with
-// exit and fdopen wrapped.
+// byte of an input chooses the parser, the rest is its file. A run that would end
+// the process comes back here instead.
 
 #include "classify/classify.h"
 #include "classify/pairing.h"
+#include "conditions/conditions.h"
 #include "conditions/conditions_file.h"
 #include "inventory/adapter_list.h"
 #include "inventory/attributes.h"
 #include "inventory/target_mapping.h"
-#include "run/diagnostics.h"
-#include "run/settings.h"
+#include "run/base/diagnostics.h"
+#include "run/base/end_run.h"
+#include "run/base/settings.h"
 
-// The record lists start anew for each input; their counters are private.
-#include "conditions/conditions.cpp" // NOLINT(bugprone-suspicious-include)
-#include "inventory/hba_info.cpp"    // NOLINT(bugprone-suspicious-include)
-
-#include <csetjmp>
 #include <cstdlib>
 #include <string>
-#include <unistd.h>
 
 namespace {
 
-std::jmp_buf process_end;
-bool parsing = false;
-std::FILE* opened = nullptr;
-std::string directory;
+struct RunEnded {};
 
-void forget_records() {
-    for (hba_info** port = p_hba_info_list; port != nullptr && *port != nullptr; ++port) {
-        release_hba_info_entry(*port);
-    }
-    std::free(p_hba_info_list);
-    p_hba_info_list = nullptr;
-    hbainfo_entry_cnt = 0;
-    for (auto** entry = fc_config_entry_list; entry != nullptr && *entry != nullptr; ++entry) {
-        while (periphery_info_entry* const first = (*entry)->periphery) {
-            (*entry)->periphery = first->next;
-            delete first;
-        }
-        delete *entry;
-    }
-    std::free(fc_config_entry_list);
-    fc_config_entry_list = nullptr;
-    config_entry_cnt = 0;
-}
+std::string directory;
 
 void write_file(const std::string& name, const std::uint8_t* data, std::size_t size) {
     if (std::FILE* file = std::fopen((directory + name).c_str(), "w")) {
@@ -82,24 +57,12 @@ void parse(int choice, const std::uint8_t* data, std::size_t size) {
 
 } // namespace
 
+// In place of the library's own.
+void end_run(std::int32_t /*status*/) {
+    throw RunEnded{};
+}
+
 extern "C" {
-
-std::FILE* __real_fdopen(int descriptor, const char* mode);
-
-std::FILE* __wrap_fdopen(int descriptor, const char* mode) {
-    opened = __real_fdopen(descriptor, mode);
-    return opened;
-}
-
-[[noreturn]] void __real_exit(int status);
-
-[[noreturn]] void __wrap_exit(int status) {
-    if (!parsing) {
-        __real_exit(status);
-    }
-    std::fclose(opened);
-    std::longjmp(process_end, 1);
-}
 
 int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
     const char* const scratch = std::getenv("TMPDIR");
@@ -111,12 +74,15 @@ int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
 }
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    parsing = size > 0;
-    if (parsing && setjmp(process_end) == 0) {
-        parse(data[0] % 4, data + 1, size - 1);
+    try {
+        if (size > 0) {
+            parse(data[0] % 4, data + 1, size - 1);
+        }
+    } catch (const RunEnded&) {
+        // Refused, as it should be.
     }
-    parsing = false;
-    forget_records();
+    release_hba_info_list();
+    release_config_entry_list();
     return 0;
 }
 }

@@ -2,7 +2,7 @@
 // doubled, stretched or spoilt, and every run must end with a status of the
 // table. Under the sanitizers, whose reports end with a status of their own.
 
-#include "run/return_codes.h"
+#include "run/base/return_codes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // What the documents say of options and statuses is what the tables say.
 
-#include "run/command_line.h"
-#include "run/return_codes.h"
+#include "run/base/return_codes.h"
+#include "run/options.h"
 
 #include <gtest/gtest.h>
 

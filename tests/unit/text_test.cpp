@@ -1,7 +1,7 @@
 #include "conditions/conditions_file.h"
-#include "inventory/vendor_cli.h"
-#include "run/diagnostics.h"
-#include "run/text.h"
+#include "run/base/diagnostics.h"
+#include "run/base/shell_command.h"
+#include "run/base/text.h"
 
 #include <gtest/gtest.h>
 

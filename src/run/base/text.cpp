@@ -1,4 +1,6 @@
-#include "run/text.h"
+#include "run/base/text.h"
+
+#include "run/base/end_run.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -16,6 +18,18 @@ void cut_trailing(char* text, std::string_view cut) {
 
 } // namespace
 
+std::vector<std::string_view> split(std::string_view list, char separator) {
+    std::vector<std::string_view> items;
+    std::size_t start = 0;
+    for (std::size_t end = list.find(separator); end != std::string_view::npos;
+         end = list.find(separator, start)) {
+        items.push_back(list.substr(start, end - start));
+        start = end + 1;
+    }
+    items.push_back(list.substr(start));
+    return items;
+}
+
 std::int32_t string2int(char* text, int base) {
     cut_trailing(text, "\n ");
     if (*text == '\0') {
@@ -31,7 +45,7 @@ std::int32_t string2int(char* text, int base) {
     unsigned long value = std::strtoul(digits, &end, base);
     if (errno == ERANGE) {
         std::perror("strtoul");
-        std::exit(1);
+        end_run(1);
     }
     if (*end != '\0') {
         value = ~0UL;

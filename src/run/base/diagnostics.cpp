@@ -1,15 +1,14 @@
-#include "run/diagnostics.h"
+#include "run/base/diagnostics.h"
+
+#include "run/base/text_file.h"
 
 #include <array>
 #include <cstdarg>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
 // The log of a debug run; null without one.
-std::FILE* debug_stream = nullptr;
+TextFile debug_log;
 
 bool hidden(std::int32_t level, const std::FILE* stream) {
     return (stream == nullptr && PrintDebugOnScreen == 0) ||
@@ -17,6 +16,12 @@ bool hidden(std::int32_t level, const std::FILE* stream) {
 }
 
 } // namespace
+
+void set_levels(std::int32_t debug, std::int32_t verbose, std::int32_t screen) {
+    DebugLevel = debug;
+    VerboseLevel = verbose;
+    PrintDebugOnScreen = screen;
+}
 
 int PrintDebug(std::int32_t level, const char* text, std::FILE* stream) {
     if (hidden(level, stream)) {
@@ -37,25 +42,15 @@ int PrintDebug(std::int32_t level, const char* text, std::FILE* stream) {
 }
 
 void open_debug_log(const char* path) {
-    // The directory may be writable by others: nothing of theirs is written to.
-    const int descriptor =
-        open(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0600);
-    if (descriptor < 0) {
-        return;
-    }
-    struct stat status {};
-    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1 &&
-        status.st_uid == geteuid() && fchmod(descriptor, 0600) == 0 &&
-        ftruncate(descriptor, 0) == 0) {
-        debug_stream = fdopen(descriptor, "w");
-    }
-    if (debug_stream == nullptr) {
-        close(descriptor);
-    }
+    debug_log = create_private_file(path);
+}
+
+void close_debug_log() {
+    debug_log.reset();
 }
 
 bool message_shown(std::int32_t level) {
-    return !hidden(level, debug_stream);
+    return !hidden(level, debug_log.get());
 }
 
 void message(std::int32_t level, const char* format, ...) {
@@ -67,5 +62,5 @@ void message(std::int32_t level, const char* format, ...) {
     va_start(values, format);
     static_cast<void>(std::vsnprintf(text.data(), text.size(), format, values));
     va_end(values);
-    static_cast<void>(PrintDebug(level, text.data(), debug_stream));
+    static_cast<void>(PrintDebug(level, text.data(), debug_log.get()));
 }

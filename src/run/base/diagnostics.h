@@ -3,6 +3,7 @@
 // number, which go straight to standard error.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 
@@ -13,10 +14,13 @@ inline std::int32_t PrintDebugOnScreen = 1; // 0 or 1: whether the screen may be
 // The longest message that is written, without its terminating NUL.
 constexpr std::size_t message_length_max = 4095;
 
-// Separators of the reports: eight groups of ten characters.
+// Separators of the messages: eight groups of ten characters.
 #define CNATOOL_EIGHT_TIMES(text) text text text text text text text text
 constexpr const char* divider = CNATOOL_EIGHT_TIMES("---------+");
 constexpr const char* star_divider = CNATOOL_EIGHT_TIMES("*********+");
+
+// Sets the three levels. A run starts with 0, 1 and 1.
+void set_levels(std::int32_t debug, std::int32_t verbose, std::int32_t screen);
 
 // Writes `text` unchanged where the levels and the screen switch send it: to
 // standard output, standard error or `stream` (which may be null). Returns 1
@@ -26,6 +30,9 @@ int PrintDebug(std::int32_t level, const char* text, std::FILE* stream);
 // Opens the log of a debug run, emptied, and sends the messages there from now
 // on. A log that can't be opened is no error: the run goes on without one.
 void open_debug_log(const char* path);
+
+// Ends the log; without one nothing happens.
+void close_debug_log();
 
 // True when the verbose or the debug level is above `level`: the stricter gate
 // that some messages have beside their own level.

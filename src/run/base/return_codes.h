@@ -39,4 +39,4 @@ struct ReturnCodeName {
 std::span<const ReturnCodeName> return_codes();
 
 // The text of the return-code list: one leading newline, two at the end.
-std::string return_message();
+std::string returnMessage();

@@ -1,4 +1,4 @@
-#include "run/signal_hold.h"
+#include "run/base/signal_hold.h"
 
 #include <cstdio>
 

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <span>
 #include <string_view>
+#include <vector>
 
 // Stores `text` in a fixed-capacity field, cut to what fits beside the
 // terminating NUL. The only way text gets into a record.
@@ -32,11 +33,15 @@ inline bool is_blank(const char* text) {
     return text[std::strspn(text, " ")] == '\0';
 }
 
+// The items of `list` between its separators, empty ones included: one more than
+// there are separators.
+std::vector<std::string_view> split(std::string_view list, char separator);
+
 // Reads `text` as a number in `base` (10 or 16); trailing blanks and newlines
-// are cut off in place. Returns the value cut to 32 bits, negated behind a
+// are cut off in place. Returns the value cut to 32 bits, negated after a
 // leading minus sign; -1 for an empty text and all ones before the negation for
 // one that is no number. Callers refuse every negative result. A value above 64
-// bits ends the process with 1 and the library's message on standard error.
+// bits ends the run with 1 and the library's message on standard error.
 std::int32_t string2int(char* text, int base);
 
 // Turns quotes, tabs and newlines of `text` into blanks and cuts trailing

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 #include <new>
 
 // Makes a zero-filled record and appends it to `list`, which grows by one slot
@@ -28,8 +29,8 @@ Record* append_new_record(Record**& list, std::int32_t& count) {
     return record;
 }
 
-// Makes a zero-filled record that its maker links, and counts it. Returns null
-// when memory is exhausted.
+// Makes a zero-filled record, counted but in no list: the caller links it.
+// Returns null when memory is exhausted.
 template <class Record>
 Record* new_counted_record(std::int32_t& count) {
     auto* const record = new (std::nothrow) Record();
@@ -37,4 +38,37 @@ Record* new_counted_record(std::int32_t& count) {
         ++count;
     }
     return record;
+}
+
+// The records of such an array, one after another; none of an absent array.
+template <class Record>
+struct RecordRange {
+    struct Iterator {
+        Record** slot;
+
+        Record& operator*() const { return **slot; }
+        Iterator& operator++() {
+            ++slot;
+            return *this;
+        }
+        bool operator==(std::default_sentinel_t /*end*/) const {
+            return slot == nullptr || *slot == nullptr;
+        }
+    };
+
+    Record** list;
+
+    [[nodiscard]] Iterator begin() const { return {list}; }
+    [[nodiscard]] static std::default_sentinel_t end() { return {}; }
+};
+
+// Empties an array: every record is handed to `release`, then the slots go.
+template <class Record>
+void release_records(Record**& list, std::int32_t& count, void (*release)(Record*)) {
+    for (Record& record : RecordRange<Record>{list}) {
+        release(&record);
+    }
+    std::free(list);
+    list = nullptr;
+    count = 0;
 }

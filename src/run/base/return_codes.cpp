@@ -1,4 +1,4 @@
-#include "run/return_codes.h"
+#include "run/base/return_codes.h"
 
 #include <array>
 #include <cstdio>
@@ -17,7 +17,7 @@ std::span<const ReturnCodeName> return_codes() {
     return codes;
 }
 
-std::string return_message() {
+std::string returnMessage() {
     std::string text = "\n   Valid return codes\n\n";
     for (const auto& code : codes) {
         std::array<char, 64> line{};

@@ -1,11 +1,11 @@
-#include "run/process.h"
+#include "run/base/environment.h"
 
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
 void prepare_process() {
-    // The lowest free descriptor is taken, so the loop ends behind the third.
+    // The lowest free descriptor is taken, so the loop ends after the third.
     int descriptor = 0;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
         descriptor = open("/dev/null", O_RDWR);

@@ -1,4 +1,4 @@
-// Text files that other programs wrote.
+// Text files, those that other programs wrote among them.
 #pragma once
 
 #include <cstdio>
@@ -12,8 +12,8 @@ using TextFile = std::unique_ptr<std::FILE, FileCloser>;
 // The text of one read. A longer line is read in pieces.
 using LineBuffer = char[1024];
 
-// Opens a regular file for reading; null when it can't be opened or is none (a
-// directory, or a FIFO that would make the run wait for a writer).
+// Opens a regular file for reading; null when it can't be opened or when `path`
+// names something else (a directory, a FIFO).
 TextFile open_text_file(const char* path);
 
 // Reads the next line, or the next piece of a long one, with its line end.
@@ -21,3 +21,8 @@ TextFile open_text_file(const char* path);
 inline bool read_line(const TextFile& file, LineBuffer& line) {
     return std::fgets(line, sizeof line, file.get()) != nullptr;
 }
+
+// Makes a file that messages are written to, emptied and readable by its owner
+// alone. Null when it can't be opened or could be somebody else's: nothing is
+// written through a link, or to what has another owner or a second name.
+TextFile create_private_file(const char* path);

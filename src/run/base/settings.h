@@ -1,0 +1,33 @@
+// The settings of a run. The driver writes them while it reads the command line;
+// the phases only read them.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+// What the options switch on, each 0 or 1.
+inline std::int32_t active_option_simulate = 0; // the vendor CLI is not run
+inline std::int32_t active_option_valid_subsystem = 0;
+inline std::int32_t active_option_ctrl_wide_identical = 0;
+inline std::int32_t active_option_ctrl_vendor_wide_identical = 0;
+inline std::int32_t active_option_flash = 0;
+inline std::int32_t active_option_qmr_mode = 0; // nothing found is no failure
+
+constexpr const char* conditions_file_name = "FC_HBA_Conditions.txt";
+
+// A path holds one character less.
+constexpr std::size_t path_capacity = 1024;
+
+// The longest directory that leaves room for "/" and the conditions file's name.
+constexpr std::size_t directory_length_max = 1001;
+static_assert(directory_length_max + 1 + std::string_view(conditions_file_name).size() <
+              path_capacity);
+
+inline char pHBAConditionsPath[path_capacity]; // the conditions file
+inline char pHBAFirmwarePath[path_capacity];   // the images' directory, with a trailing "/"
+inline char pHBAWorkingPath[path_capacity];    // the reports' directory, with a trailing "/"
+inline char TEMPDIR_BUFFER[4096];              // the temporary directory; shown only
+
+// Puts everything back to what it is before the command line is read.
+void reset_settings();

@@ -1,0 +1,33 @@
+#include "run/base/text_file.h"
+
+#include "run/base/regular_file.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+// The stream of a descriptor, which it takes over.
+TextFile stream_of(int descriptor, const char* mode) {
+    TextFile file(descriptor < 0 ? nullptr : fdopen(descriptor, mode));
+    if (file == nullptr && descriptor >= 0) {
+        close(descriptor);
+    }
+    return file;
+}
+
+} // namespace
+
+TextFile open_text_file(const char* path) {
+    struct stat status {};
+    return stream_of(open_regular_file(path, O_RDONLY, status), "r");
+}
+
+TextFile create_private_file(const char* path) {
+    struct stat status {};
+    const int descriptor = open_regular_file(path, O_WRONLY | O_CREAT | O_NOFOLLOW, status);
+    TextFile file = stream_of(descriptor, "w");
+    const bool own = file != nullptr && status.st_nlink == 1 && status.st_uid == geteuid() &&
+                     fchmod(descriptor, 0600) == 0 && ftruncate(descriptor, 0) == 0;
+    return own ? std::move(file) : nullptr;
+}
