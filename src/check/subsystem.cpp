@@ -3,8 +3,9 @@
 #include "run/base/diagnostics.h"
 #include "run/base/text.h"
 
-#include <ranges>
+#include <algorithm>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -96,9 +97,10 @@ bool CheckModelGroupConsistency(std::string_view group, std::string_view referen
     message(1, "\tAlready identified reference subsystems: %s  Subsystem group: %s\n",
             std::string(references).c_str(), group_text.c_str());
     const std::vector<std::string_view> items = split(group, ',');
-    for (const std::string_view item : split(references, ',') | std::views::reverse) {
-        const std::string reference(item);
-        if (std::ranges::find(items, item) == items.end()) {
+    std::vector<std::string_view> wanted = split(references, ',');
+    for (; !wanted.empty(); wanted.pop_back()) {
+        const std::string reference(wanted.back());
+        if (std::find(items.begin(), items.end(), reference) == items.end()) {
             message(1, "\tReference subsystem '%s' not in Group: >%s< => Skip this group.\n",
                     reference.c_str(), group_text.c_str());
             return false;

@@ -111,18 +111,18 @@ void read_options(Parse& parse) {
 // A list option that makes sense only beside another one.
 struct Need {
     SelectionKind given;
-    const char* given_option;
     SelectionKind needed;
+    const char* given_option;
     const char* needed_option;
     const char* needed_values;
 };
 
 constexpr Need needs[] = {
-    {kind_model, "-mod", kind_vendor_name, "-vn", "vendor-names"},
-    {kind_device_id, "-dev", kind_vendor_id, "-vid", "one or more vendor-ids"},
-    {kind_subvendor_id, "-subvid", kind_device_id, "-dev", "one or more device-ids"},
-    {kind_subdevice_id, "-subdev", kind_subvendor_id, "-subvid", "one or more subvendor-ids"},
-    {kind_subvendor_id, "-subvid", kind_subdevice_id, "-subdev", "one or more subdevice-ids"},
+    {kind_model, kind_vendor_name, "-mod", "-vn", "vendor-names"},
+    {kind_device_id, kind_vendor_id, "-dev", "-vid", "one or more vendor-ids"},
+    {kind_subvendor_id, kind_device_id, "-subvid", "-dev", "one or more device-ids"},
+    {kind_subdevice_id, kind_subvendor_id, "-subdev", "-subvid", "one or more subvendor-ids"},
+    {kind_subvendor_id, kind_subdevice_id, "-subvid", "-subdev", "one or more subdevice-ids"},
 };
 
 void check_combinations(const std::array<bool, selection_kinds>& given) {

@@ -51,8 +51,8 @@ struct RecordRange {
             ++slot;
             return *this;
         }
-        bool operator==(std::default_sentinel_t /*end*/) const {
-            return slot == nullptr || *slot == nullptr;
+        bool operator!=(std::default_sentinel_t /*end*/) const {
+            return slot != nullptr && *slot != nullptr;
         }
     };
 
