@@ -8,6 +8,7 @@
 #include "run/base/text_file.h"
 
 #include <array>
+#include <cinttypes>
 #include <string>
 
 namespace {
@@ -55,7 +56,7 @@ constexpr auto subsystem_columns = std::to_array<SubsystemColumn>({
 
 // The record that a data line becomes, while its columns are read.
 struct DataLine {
-    std::int32_t number;                       // in the file, for refusals
+    std::int64_t number;                       // in the file, for refusals
     Entry* entry;                              // what it becomes
     std::size_t column = 0;                    // the next one
     periphery_info_entry* subsystem = nullptr; // the last of the record's chain
@@ -68,7 +69,7 @@ void store_identifier(const Column& column, char* value, const DataLine& line) {
     if (number < 0) {
         if (DebugLevel > 0 && PrintDebugOnScreen != 0) {
             static_cast<void>(
-                std::fprintf(stderr, "\nError line %d: %s %s is not a valid hex value!\n",
+                std::fprintf(stderr, "\nError line %" PRId64 ": %s %s is not a valid hex value!\n",
                              line.number, column.name, column.field(*line.entry).data()));
         }
         end_run(RET_FATAL_ERROR);
@@ -125,7 +126,7 @@ std::int32_t store_column(std::string_view text, DataLine& line) {
 
 // Makes a record of a line that is no comment. A line without any column, which
 // only one without a line end can be, makes none.
-std::int32_t read_data_line(std::string_view text, std::int32_t number) {
+std::int32_t read_data_line(std::string_view text, std::int64_t number) {
     if (text.find_first_not_of('|') == std::string_view::npos) {
         return RET_OK;
     }
@@ -161,7 +162,7 @@ std::int32_t Read_FC_Config_File(const char* path) {
         return RET_FC_HBA_CONDITIONS_MISSING;
     }
     LineBuffer line;
-    for (std::int32_t number = 1; read_line(file, line); ++number) {
+    for (std::int64_t number = 1; read_line(file, line); ++number) {
         if (is_comment(line)) {
             continue;
         }
@@ -169,5 +170,5 @@ std::int32_t Read_FC_Config_File(const char* path) {
             return result;
         }
     }
-    return RET_OK;
+    return read_failed(file) ? RET_FATAL_ERROR : RET_OK;
 }

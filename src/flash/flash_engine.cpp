@@ -91,9 +91,9 @@ std::int32_t flash_image(const ImageKind& kind, const hba_info& flash_port,
                 std::strerror(errno));
         return RET_SCLI_NOT_INSTALLED;
     }
-    const ShellCommand command =
-        hbacmd_command("\n\t\t", {"download", flash_port.permanent_mac, image}, Output::appended,
-                       directory + "/FWtrace.out", "\n");
+    ShellCommand command = hbacmd_command("\n\t\t", {"download", flash_port.permanent_mac, image},
+                                          Output::appended, directory + "/FWtrace.out", "\n");
+    command.awaited = std::string("download of the ") + kind.name;
     message(1, "\t\t\t%s file found: %s\n\n", kind.title, image);
     message(1, "\tNow start flashing the %s.\n\t\tFlash command is: %s\n", kind.name,
             command.text.c_str());

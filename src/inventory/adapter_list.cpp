@@ -72,8 +72,8 @@ std::int32_t read_list_line(char* line, ListedPorts& ports) {
 } // namespace
 
 std::int32_t read_adapter_list() {
-    const ReportFile file = report_file("local_hba_list.out");
-    const std::int32_t status = make_report("", {"listhbas"}, file, " \n");
+    ReportFile file = report_file("local_hba_list.out");
+    const std::int32_t status = make_report("", {"listhbas"}, file, " \n", "adapter list");
     if (status != 0) {
         message(4, "\nFail, \"hbacmd listhbas\" command returned code %d.\n", status);
         return RET_FATAL_ERROR;
@@ -81,5 +81,10 @@ std::int32_t read_adapter_list() {
     message(6, "\nSuccess, \"hbacmd listhbas\" command returned code %d.\n", status);
 
     ListedPorts ports;
-    return read_report(file, [&](char* line) { return read_list_line(line, ports); });
+    const std::int32_t result =
+        read_report(file, [&](char* line) { return read_list_line(line, ports); });
+    if (result == report_not_opened) {
+        release_hba_info_list();
+    }
+    return result;
 }

@@ -111,10 +111,10 @@ std::int32_t read_attributes_line(char* line, hba_info& port) {
 
 } // namespace
 
-std::int32_t read_attributes(hba_info& port) {
-    const ReportFile file = report_file(port, "hba_attributes.out");
-    const std::int32_t status =
-        make_report("\n\t\t", {"hbaattributes", port_identifier(port)}, file, "\n");
+std::int32_t read_attributes(hba_info& port, const std::string& which) {
+    ReportFile file = report_file(port, "hba_attributes.out");
+    const std::int32_t status = make_report("\n\t\t", {"hbaattributes", port_identifier(port)},
+                                            file, "\n", which + ": attributes");
     // Here every type that begins with "FC" is named by its world-wide name.
     const char* const name = type_begins_with(port, "FC") ? port.port_wwn : port.permanent_mac;
     if (status == 0) {
@@ -128,5 +128,11 @@ std::int32_t read_attributes(hba_info& port) {
         message(1, "\t\tNo serial number => SKIP!\n");
         return RET_OK;
     }
-    return read_report(file, [&](char* line) { return read_attributes_line(line, port); });
+    const std::int32_t result =
+        read_report(file, [&](char* line) { return read_attributes_line(line, port); });
+    if (result == report_not_opened) {
+        delete port.attributes;
+        port.attributes = nullptr;
+    }
+    return result;
 }

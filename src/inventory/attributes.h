@@ -3,6 +3,8 @@
 
 #include "inventory/hba_info.h"
 
+#include <string>
+
 // Has the CLI report the port and reads that into `attributes`; a port without a serial
 // number gets none. Returns RET_OK, report_not_opened or RET_MEMALLOC_FAIL.
-std::int32_t read_attributes(hba_info& port);
+std::int32_t read_attributes(hba_info& port, const std::string& which);

@@ -8,13 +8,24 @@
 #include "run/base/diagnostics.h"
 #include "run/base/return_codes.h"
 
+#include <cstddef>
+#include <string>
+
 namespace {
 
-using Stage = std::int32_t (*)(hba_info&);
+// What is read of each port; `which` tells a terminal the port's place in the list.
+using Stage = std::int32_t (*)(hba_info& port, const std::string& which);
 
 std::int32_t for_each_port(Stage stage) {
+    std::size_t count = 0;
+    for ([[maybe_unused]] const hba_info& port : all_ports()) {
+        ++count;
+    }
+    std::size_t number = 0;
     for (hba_info& port : all_ports()) {
-        if (const std::int32_t result = stage(port); result != RET_OK) {
+        const std::string which =
+            "port " + std::to_string(++number) + " of " + std::to_string(count);
+        if (const std::int32_t result = stage(port, which); result != RET_OK) {
             return result;
         }
     }
@@ -28,6 +39,7 @@ std::int32_t Get_All_Hba_Info() {
         message(1, "\t\tCommand %s is not available!\n\n", hbacmd_path);
         return RET_SCLI_NOT_INSTALLED;
     }
+    take_turn();
     if (const std::int32_t result = read_adapter_list(); result != RET_OK) {
         return result;
     }

@@ -4,8 +4,10 @@
 #include "run/base/diagnostics.h"
 #include "run/base/settings.h"
 
+#include <utility>
+
 ReportFile report_file(const char* name) {
-    return {std::string(pHBAWorkingPath) + "/" + name};
+    return {std::string(pHBAWorkingPath) + "/" + name, true};
 }
 
 ReportFile report_file(const hba_info& port, const char* name) {
@@ -21,22 +23,27 @@ ReportFile report_file(const hba_info& port, const char* name) {
 }
 
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
-                         const ReportFile& file, const char* tail) {
+                         ReportFile& file, const char* tail, std::string awaited) {
     ShellCommand command = hbacmd_command(lead, words, Output::rewritten, file.path, tail);
-    command.runnable = file.inside;
+    file.usable =
+        file.usable && (active_option_simulate != 0 || command.text.size() <= command_length_max);
+    command.runnable = file.usable;
+    command.awaited = std::move(awaited);
     message(6, "%s", command.text.c_str());
     return run_command(command, Interruption::allowed);
 }
 
 TextFile open_report(const ReportFile& file) {
-    TextFile report;
-    if (file.inside && file.path.size() < path_capacity) {
-        report = open_text_file(file.path.c_str());
+    if (!file.usable || file.path.size() >= path_capacity) {
+        return nullptr;
     }
-    if (report == nullptr) {
-        message(1, "Error: Could not open file %s\n", file.path.c_str());
-    }
-    return report;
+    return active_option_simulate != 0 ? open_text_file(file.path.c_str())
+                                       : open_text_file_without_links(file.path.c_str());
+}
+
+std::int32_t refuse_report(const ReportFile& file) {
+    message(1, "Error: Could not open file %s\n", file.path.c_str());
+    return report_not_opened;
 }
 
 char* line_value(char* line) {

@@ -18,29 +18,37 @@ constexpr std::int32_t report_not_opened = 51;
 // A report's file in the working directory.
 struct ReportFile {
     std::string path;
-    bool inside = true; // false: the name could lead out of the working directory
+    bool usable; // false: it must be neither written nor read
 };
 
 ReportFile report_file(const char* name);
 
-// The file of one port's report, named after its serial number and function.
+// The file of one port's report, named after its serial number and function; not
+// usable when these could lead out of the working directory.
 ReportFile report_file(const hba_info& port, const char* name);
 
 // Shows and runs the CLI's command line of `words`, framed by `lead` and `tail`,
-// which makes the report. Returns the raw status (see run_command).
+// which makes the report; `awaited` is shown at a terminal meanwhile. Returns the
+// raw status (see run_command). The file of a command that is too long to be run
+// becomes unusable: what it holds is an earlier run's.
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
-                         const ReportFile& file, const char* tail);
+                         ReportFile& file, const char* tail, std::string awaited);
 
-// Opens a report; when it can't be opened, says so and returns null.
+// Opens a report; when it can't be opened, returns null. One that the CLI should
+// have written is not looked for behind a link: nothing is written there.
 TextFile open_report(const ReportFile& file);
 
+// Says that a report can't be opened, and returns report_not_opened.
+std::int32_t refuse_report(const ReportFile& file);
+
 // Opens a report and hands each line to `read_one` up to the first result other
-// than RET_OK, which it returns; report_not_opened when there is no such file.
+// than RET_OK, which it returns; report_not_opened when the file can't be opened,
+// or not be read to its end: the caller then drops what it has taken from it.
 template <class ReadOne>
 std::int32_t read_report(const ReportFile& file, ReadOne read_one) {
     const TextFile report = open_report(file);
     if (report == nullptr) {
-        return report_not_opened;
+        return refuse_report(file);
     }
     LineBuffer line;
     while (read_line(report, line)) {
@@ -48,7 +56,7 @@ std::int32_t read_report(const ReportFile& file, ReadOne read_one) {
             return result;
         }
     }
-    return RET_OK;
+    return read_failed(report) ? refuse_report(file) : RET_OK;
 }
 
 // The first of a report's labels, rows with a `text`, that `line` begins with, or

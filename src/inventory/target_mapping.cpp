@@ -60,13 +60,13 @@ std::int32_t read_mapping_line(char* line, bool below_title, hba_info& port) {
 
 } // namespace
 
-std::int32_t read_target_mapping(hba_info& port) {
+std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
     if (!sees_storage(port)) {
         return RET_OK;
     }
-    const ReportFile file = report_file(port, "target_mapping.out");
-    const std::int32_t status =
-        make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, file, "\n");
+    ReportFile file = report_file(port, "target_mapping.out");
+    const std::int32_t status = make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, file,
+                                            "\n", which + ": target mapping");
     if (status == 0) {
         message(6, "\n\t\t\tSuccess, \"hbacmd targetmapping %s\" command returned code %d.\n",
                 port.port_wwn, status);
@@ -82,9 +82,14 @@ std::int32_t read_target_mapping(hba_info& port) {
     // Counted down to the first line below the title; there is no limit to a
     // report's lines.
     int title_left = title_lines;
-    return read_report(file, [&](char* line) {
+    const std::int32_t result = read_report(file, [&](char* line) {
         const bool below_title = title_left == 0;
         title_left -= below_title ? 0 : 1;
         return read_mapping_line(line, below_title, port);
     });
+    if (result == report_not_opened) {
+        delete port.target_mapping;
+        port.target_mapping = nullptr;
+    }
+    return result;
 }

@@ -3,8 +3,10 @@
 
 #include "inventory/hba_info.h"
 
+#include <string>
+
 // Has the CLI report a Fibre Channel or FCoE port and reads that into
 // `target_mapping`, which stays null when the port sees no storage or has no
 // serial number; other ports are passed over. Returns RET_OK, report_not_opened
 // or RET_MEMALLOC_FAIL.
-std::int32_t read_target_mapping(hba_info& port);
+std::int32_t read_target_mapping(hba_info& port, const std::string& which);

@@ -1,7 +1,11 @@
 #include "inventory/vendor_cli.h"
 
 #include "run/base/settings.h"
+#include "run/base/terminal_line.h"
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 // The tests are linked with another path. Neither an option nor the environment
@@ -16,10 +20,28 @@ bool hbacmd_available() {
     return active_option_simulate != 0 || stat(hbacmd_path, &status) == 0;
 }
 
+void take_turn() {
+    if (active_option_simulate != 0) {
+        return;
+    }
+    // The CLI's own file is the lock: one for the machine, and nothing to create. It
+    // stays open to the end of the process, and out of its children: a daemon that
+    // the CLI leaves behind must not keep every later run waiting.
+    const int descriptor = open(hbacmd_path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0 || flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
+        return;
+    }
+    const TerminalLine line("another run of cnatool");
+    while (flock(descriptor, LOCK_EX) != 0 && errno == EINTR) {
+    }
+}
+
 ShellCommand hbacmd_command(std::string_view lead, std::initializer_list<std::string_view> words,
                             Output output, std::string_view file, std::string_view tail) {
-    ShellCommand command{std::string(lead)};
-    command.text += hbacmd_path;
+    ShellCommand command;
+    command.output_path = file;
+    command.output = output;
+    command.text.append(lead).append(hbacmd_path);
     for (const std::string_view word : words) {
         command.text.append(" ").append(shell_word(word));
     }

@@ -13,8 +13,11 @@ extern const char* const hbacmd_path;
 // Whether the CLI can be run: it is installed (errno tells why not) or simulated.
 bool hbacmd_available();
 
-// What becomes of the file that the CLI's output goes into.
-enum class Output { rewritten, appended };
+// Waits for its turn where another run uses the CLI, and keeps the others waiting
+// until the process ends: two of them would rewrite each other's reports, or flash
+// the same adapter. Signals end the wait. A CLI that can't be opened for reading is
+// used without taking turns, and so is none at all in simulate mode.
+void take_turn();
 
 // The command line that runs the CLI with `words`, each quoted where it needs to
 // be, its output in `file`; `lead` and `tail` frame it.

@@ -1,7 +1,10 @@
 #include "run/base/environment.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
+#include <initializer_list>
+#include <sys/stat.h>
 #include <unistd.h>
 
 void prepare_process() {
@@ -14,5 +17,12 @@ void prepare_process() {
         close(descriptor);
     }
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
+    umask(umask(0) | S_IWGRP | S_IWOTH);
+    // Some shells take their options, or the state of their option parser, from there:
+    // noexec lets every command succeed without being run.
+    for (const char* const variable : {"SHELLOPTS", "BASHOPTS", "OPTIND"}) {
+        unsetenv(variable);
+    }
 }

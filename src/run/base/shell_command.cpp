@@ -2,6 +2,7 @@
 
 #include "run/base/settings.h"
 #include "run/base/signal_hold.h"
+#include "run/base/terminal_line.h"
 
 #include <cerrno>
 #include <csignal>
@@ -20,7 +21,8 @@ constexpr std::string_view plain_characters = "abcdefghijklmnopqrstuvwxyz"
 // Starts the shell for a command that nothing may break off. Some shells clear
 // the mask that they inherit, so it gets a session of its own, out of reach of the
 // terminal and of the tool's process group, and ignores what comes all the same, a
-// closed pipe included. Returns -1 when there is no process to be had.
+// closed pipe and a limit of file size or time included. Returns -1 when there is no process to be
+// had.
 pid_t start_deferred(const char* text) {
     const pid_t child = fork();
     if (child == 0) {
@@ -28,6 +30,7 @@ pid_t start_deferred(const char* text) {
         for (const int signal : SignalHold::signals) {
             static_cast<void>(std::signal(signal, SIG_IGN));
         }
+        static_cast<void>(std::signal(SIGXCPU, SIG_IGN));
         execl("/bin/sh", "sh", "-c", text, static_cast<char*>(nullptr));
         _exit(127);
     }
@@ -35,8 +38,8 @@ pid_t start_deferred(const char* text) {
 }
 
 // Starts the shell for any other command; spawning costs less than a fork. The
-// child reacts to a closed pipe in the default way, which the tool does not.
-// Returns -1 when it can't be started.
+// child reacts in the default way to what the tool and downloads ignore. Returns -1 when it can't
+// be started.
 pid_t start_interruptible(const std::string& text) {
     char shell[] = "sh";
     char option[] = "-c";
@@ -44,7 +47,9 @@ pid_t start_interruptible(const std::string& text) {
     char* words[] = {shell, option, command.data(), nullptr};
     sigset_t defaults;
     sigemptyset(&defaults);
-    sigaddset(&defaults, SIGPIPE);
+    for (const int signal : {SIGPIPE, SIGXFSZ, SIGXCPU}) {
+        sigaddset(&defaults, signal);
+    }
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setsigdefault(&attributes, &defaults);
@@ -89,11 +94,13 @@ std::int32_t run_command(const ShellCommand& command, Interruption interruption)
     if (active_option_simulate != 0) {
         return 0;
     }
-    if (!command.runnable || command.text.size() > command_length_max) {
+    if (!command.runnable || command.text.size() > command_length_max ||
+        !prepare_output(command.output_path, command.output)) {
         return -1;
     }
     // Whoever watches the run sees what has been said before the command starts.
     static_cast<void>(std::fflush(nullptr));
+    const TerminalLine line(command.awaited);
     const pid_t child = interruption == Interruption::deferred
                             ? start_deferred(command.text.c_str())
                             : start_interruptible(command.text);

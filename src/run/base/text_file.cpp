@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -20,12 +21,18 @@ TextFile stream_of(int descriptor, const char* mode) {
 
 TextFile open_text_file(const char* path) {
     struct stat status {};
-    return stream_of(open_regular_file(path, O_RDONLY, status), "r");
+    return stream_of(open_regular_file(path, O_RDONLY, 0, status), "r");
+}
+
+TextFile open_text_file_without_links(const char* path) {
+    struct stat status {};
+    TextFile file = stream_of(open_regular_file(path, O_RDONLY | O_NOFOLLOW, 0, status), "r");
+    return status.st_nlink == 1 ? std::move(file) : nullptr;
 }
 
 TextFile create_private_file(const char* path) {
     struct stat status {};
-    const int descriptor = open_regular_file(path, O_WRONLY | O_CREAT | O_NOFOLLOW, status);
+    const int descriptor = open_regular_file(path, O_WRONLY | O_CREAT | O_NOFOLLOW, 0600, status);
     TextFile file = stream_of(descriptor, "w");
     const bool own = file != nullptr && status.st_nlink == 1 && status.st_uid == geteuid() &&
                      fchmod(descriptor, 0600) == 0 && ftruncate(descriptor, 0) == 0;

@@ -16,10 +16,18 @@ using LineBuffer = char[1024];
 // names something else (a directory, a FIFO).
 TextFile open_text_file(const char* path);
 
+// The same, but a link is not followed, nor is a file with a second name opened.
+TextFile open_text_file_without_links(const char* path);
+
 // Reads the next line, or the next piece of a long one, with its line end.
-// Returns false at the end of the file.
+// Returns false at the end of the file, and where it can't be read any further.
 inline bool read_line(const TextFile& file, LineBuffer& line) {
     return std::fgets(line, sizeof line, file.get()) != nullptr;
+}
+
+// Whether reading has ended because of an error, not at the end of the file.
+inline bool read_failed(const TextFile& file) {
+    return std::ferror(file.get()) != 0;
 }
 
 // Makes a file that messages are written to, emptied and readable by its owner
