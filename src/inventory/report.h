@@ -60,8 +60,8 @@ std::int32_t read_report(const ReportFile& file, ReadOne read_one) {
 }
 
 // The first of a report's labels, rows with a `text`, that `line` begins with, or
-// null. The first characters are compared before the whole: most rows are passed
-// over by that, which halves the time that reading a report takes.
+// null. Comparing the first characters ahead of the whole saves a run with many
+// ports a tenth of its instructions.
 template <class Label, std::size_t Count>
 const Label* find_label(const Label (&labels)[Count], const char* line) {
     for (const Label& label : labels) {
