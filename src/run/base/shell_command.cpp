@@ -88,8 +88,8 @@ std::string shell_word(std::string_view value) {
     return word + "'";
 }
 
-// The library's system() makes the tool deaf to Ctrl-C while a report is taken,
-// and lets the terminal reach a download.
+// Not by the library's system(): that makes the tool deaf to Ctrl-C while a report
+// is made, and lets the terminal reach a download.
 std::int32_t run_command(const ShellCommand& command, Interruption interruption) {
     if (active_option_simulate != 0) {
         return 0;

@@ -5,7 +5,7 @@
 
 // While it lives, Ctrl-C, Ctrl-\, a hang-up of the terminal and a polite kill
 // wait, and the command that is run meanwhile (run_command) is kept from them. At
-// its end the messages are flushed and a signal that came takes its effect.
+// its end the messages are flushed and a signal that came takes effect.
 class SignalHold {
 public:
     static constexpr int signals[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};
