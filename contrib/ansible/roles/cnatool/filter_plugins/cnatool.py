@@ -145,8 +145,10 @@ def to_csv(rows):
 
 
 def to_lines(rows):
-    widths = [max(len(str(cell)) for cell in column) for column in zip(*rows)]
-    return ["  ".join(str(cell).ljust(width) for cell, width in zip(row, widths)).rstrip() for row in rows]
+    """Columns for a screen; what is too long for it stands in the CSV."""
+    cells = [[str(cell)[:100] for cell in row] for row in rows]
+    widths = [max(map(len, column)) for column in zip(*cells)]
+    return ["  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip() for row in cells]
 
 
 class FilterModule:
