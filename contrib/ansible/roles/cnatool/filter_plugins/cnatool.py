@@ -95,25 +95,24 @@ def selected(ids, selection):
 def firmware(reports, selection):
     """The versions that the reports of the selected ports say, and "?" for a port without.
 
-    The reports are those of all ports with the list of ports, each behind a line
-    "==> file <==". Ports that are not on the list are those of adapters that have gone.
+    The reports are lines "file:line" of those of all ports and of the list of ports.
+    Ports that are not on the list are those of adapters that have gone.
     """
-    files, name = {}, ""
+    files = {}
     for line in reports.split("\n"):
-        header = re.match(r"==> (.*) <==$", line)
-        if header:
-            name = os.path.basename(header.group(1))
-        files.setdefault(name, []).append(line)
+        found = re.match(r".*?(local_hba_list|[^/]*_hba_attributes)\.out:(.*)", line)
+        if found:
+            files.setdefault(found.group(1), []).append(found.group(2))
     versions, serial = set(), ""
-    for entry in files.get("local_hba_list.out", []):
+    for entry in files.get("local_hba_list", []):
         if entry.startswith("Serial No."):
             serial = value(entry)
         if not entry.startswith("PCI Function"):
             continue
-        lines = files.get("%s_%s_hba_attributes.out" % (serial, value(entry)), [])
+        lines = files.get("%s_%s_hba_attributes" % (serial, value(entry)), [])
         ids = [value(line) for label in IDENTITY for line in lines if line.startswith(label)]
         said = {value(line) for line in lines if line.startswith(FIRMWARE)} - {""}
-        if len(ids) != 4 or not all(re.match("[0-9A-Fa-f]+$", number) for number in ids):
+        if len(ids) != 4 or not all(re.match("(0[xX])?[0-9A-Fa-f]+$", number) for number in ids):
             versions.add("?")
         elif selected([int(number, 16) for number in ids], selection):
             versions |= said or {"?"}
