@@ -52,14 +52,15 @@ def below(found, home):
 
 
 def clashes(paths, conditions):
-    """The patterns that fit two names of one directory: the program would take either."""
-    found = []
+    """What is wrong with a set: files that would replace others than images, and
+    patterns that fit two names of one directory, of which the program would take either."""
+    found = ["%s is no image" % path for path in paths if KEPT.match(os.path.basename(path))]
     for where in sorted({os.path.dirname(path.rstrip("/")) for path in paths}):
         names = [path.rstrip("/") for path in paths if os.path.dirname(path.rstrip("/")) == where]
         for pattern in patterns(conditions):
             fitting = [name for name in names if fits(os.path.basename(name), pattern)]
             if len(fitting) > 1:
-                found.append("'%s' fits %s" % (pattern, " and ".join(fitting)))
+                found.append("'%s' fits %s: give each model a directory" % (pattern, " and ".join(fitting)))
     return found
 
 
