@@ -101,17 +101,6 @@ bool examine(Walk& walk, hba_info& port) {
     return true;
 }
 
-// Whether the walk from `first` has come back to a port that it has passed, as
-// it does on the self-link of an adapter with one FCoE port.
-bool walked_before(const hba_info* first, const hba_info* port, int steps) {
-    for (const hba_info* earlier = first; steps > 0; --steps, earlier = earlier->next_port) {
-        if (earlier == port) {
-            return true;
-        }
-    }
-    return false;
-}
-
 } // namespace
 
 bool NewCompareWithReferenceSystem(const hba_info& a, const hba_info& b) {
@@ -123,12 +112,21 @@ void DoSubSystemCheck(const hba_info& port, fc_config_file_entry* const& entry,
                       global_ctrl_flags& flags) {
     Walk walk{entry, flags};
     hba_info* const first = port.flash_port->next_port;
-    hba_info* member = first;
-    for (int steps = 0; member != nullptr && !walked_before(first, member, steps); ++steps) {
-        if (!examine(walk, *member)) {
-            break;
+    // The walk ends where it comes back to a port that it has passed, as it does on
+    // the self-link of an adapter with one FCoE port.
+    bool complete = true;
+    for (hba_info* member = first; complete && member != nullptr && member->walked_for != &entry;
+         member = member->next_port) {
+        member->walked_for = &entry;
+        complete = examine(walk, *member);
+    }
+    // What lies behind the ports of a complete walk is done: below level 4, another
+    // one for the same record shows nothing there, and ends as soon as it meets them.
+    if (!complete || levels_above(3)) {
+        for (hba_info* member = first; member != nullptr && member->walked_for == &entry;
+             member = member->next_port) {
+            member->walked_for = nullptr;
         }
-        member = member->next_port;
     }
     message(6, "%s\n", divider);
 }
