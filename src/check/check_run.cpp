@@ -2,6 +2,7 @@
 
 #include "check/consistency.h"
 #include "conditions/match.h"
+#include "inventory/hba_info.h"
 #include "run/base/diagnostics.h"
 #include "run/base/settings.h"
 
@@ -31,7 +32,7 @@ void check_match(const Match& match, global_ctrl_flags& flags) {
     DoSubSystemCheck(*match.port, *match.record, flags);
 }
 
-int verdict(const global_ctrl_flags& flags) {
+int selected_check_passed(const global_ctrl_flags& flags) {
     if (active_option_valid_subsystem != 0) {
         return flags.InvalidCtrlSubsystemCombinationFound == 0;
     }
@@ -53,5 +54,5 @@ int OverallSubSystemCheck(const option_input* selection, global_ctrl_flags& flag
         check_match(match, flags);
     }
     message(3, "\n%s\n%s\n\n", star_divider, star_divider);
-    return verdict(flags);
+    return selected_check_passed(flags);
 }

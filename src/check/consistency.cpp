@@ -2,6 +2,10 @@
 
 #include "check/subsystem.h"
 #include "run/base/diagnostics.h"
+#include "run/base/text.h"
+
+#include <cstdint>
+#include <cstring>
 
 namespace {
 
@@ -45,27 +49,28 @@ void compare_with_controller(Walk& walk, hba_info& port, bool valid) {
     }
 }
 
-// The controller's reference stands for the whole controller.
-void compare_with_vendor(hba_info& controller, global_ctrl_flags& flags) {
+// A controller's reference stands for the whole controller; the first of a run
+// becomes the vendor's.
+void compare_with_vendor(hba_info& controller_reference, global_ctrl_flags& flags) {
     if (flags.VendorReferenceSubsystem == nullptr) {
-        flags.VendorReferenceSubsystem = &controller;
+        flags.VendorReferenceSubsystem = &controller_reference;
         message(2, "\t\tTake this sub-system as reference-sub-system for vendor %s.\n",
-                controller.mfg);
-        print_port(2, "\t\t\t", controller);
+                controller_reference.mfg);
+        print_port(2, "\t\t\t", controller_reference);
         return;
     }
-    const hba_info& vendor = *flags.VendorReferenceSubsystem;
+    const hba_info& vendor_reference = *flags.VendorReferenceSubsystem;
     if (flags.CtrlVendorSpecificSubsystemEquality != 0 &&
-        !NewCompareWithReferenceSystem(vendor, controller)) {
+        !NewCompareWithReferenceSystem(vendor_reference, controller_reference)) {
         message(2,
                 "\t\tAll sub-systems are consistent with vendor specific reference-sub-system "
                 "(only vendor-id was checked) %s.\n\n",
-                vendor.port_wwn);
+                vendor_reference.port_wwn);
         return;
     }
     message(2, "vendor specific reference-sub-system %d >%s< >%s<.\n",
-            flags.CtrlVendorSpecificSubsystemEquality, vendor.target_mapping->vendor_id,
-            controller.target_mapping->vendor_id);
+            flags.CtrlVendorSpecificSubsystemEquality, vendor_reference.target_mapping->vendor_id,
+            controller_reference.target_mapping->vendor_id);
     message(2, "\t\tAt least one sub-system differs from vendor specific reference-sub-system "
                "(different vendors).\n\n");
     flags.CtrlVendorSpecificSubsystemEquality = 0;

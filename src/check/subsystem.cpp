@@ -4,7 +4,9 @@
 #include "run/base/text.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -58,7 +60,7 @@ void print_storage(const target_mapping_entry& storage) {
 }
 
 // Judges the storage against one allowed subsystem of its vendor. Returns true
-// when that settles the matter.
+// when the other subsystems need not be looked at.
 bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_entry& storage,
                      Verdict& verdict) {
     message(1, "\n");

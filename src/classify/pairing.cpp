@@ -64,13 +64,14 @@ private:
     const std::vector<Position> none_;
 };
 
-// Hangs the port at `port` into the chain of each candidate. `next` holds the chains
-// as positions: a list of one adapter has a candidate for every port, and the records
-// are far apart.
+// Hangs the port at position `port` into the chain of each candidate: at once, or
+// in second place for good, where a later port replaces it. `next` holds the chains
+// as positions, since the records are far apart and a list may have a candidate for
+// every port.
 void chain(Position port, const std::vector<Position>& candidates, std::vector<Position>& next) {
     for (const Position candidate : candidates) {
-        Position& second = next[candidate];
-        (second == nowhere ? second : next[second]) = port;
+        Position& link = next[candidate];
+        (link == nowhere ? link : next[link]) = port;
     }
 }
 

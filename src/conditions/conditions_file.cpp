@@ -9,7 +9,12 @@
 
 #include <array>
 #include <cinttypes>
+#include <cstddef>
+#include <cstdio>
+#include <cstring>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -40,12 +45,12 @@ constexpr auto columns = std::to_array<Column>({
     {text_field<&Entry::column11>, 12},
 });
 
-// The columns after them, which repeat for each allowed subsystem; the listing
-// draws no line after the last.
+// The columns that follow, three for each allowed subsystem, and what the listing
+// draws after each.
 struct SubsystemColumn {
     std::span<char> (*field)(periphery_info_entry&);
     int width;
-    const char* line;
+    const char* border;
 };
 
 constexpr auto subsystem_columns = std::to_array<SubsystemColumn>({
@@ -62,8 +67,8 @@ struct DataLine {
     periphery_info_entry* subsystem = nullptr; // the last of the record's chain
 };
 
-// Converts an identifier from its whole value: a text that the field cuts could
-// be another adapter's.
+// Converts an identifier from its whole value: cut to its field, the text could be
+// the identifier of another adapter.
 void store_identifier(const Column& column, char* value, const DataLine& line) {
     const std::int32_t number = string2int(value, 16);
     if (number < 0) {
@@ -107,7 +112,7 @@ std::int32_t store_subsystem_column(const char* value, DataLine& line) {
     }
     const SubsystemColumn& column = subsystem_columns[position];
     copy_text(column.field(*line.subsystem), value);
-    message(5, " %*s%s", column.width, value, column.line);
+    message(5, " %*s%s", column.width, value, column.border);
     return RET_OK;
 }
 

@@ -24,11 +24,11 @@ struct Match {
     int position; // of the record, counted from 1 over all records
 };
 
-// Everything that a run has to walk, in its order: for each entry of the selection
-// (null: none) and each port, in list order, a match for each record that describes
-// the port when the entry names it. A port without a serial number stands there
-// once for each entry, whether named or not; a port without attributes is never
-// named.
+// What a run has to walk, in its order. For each entry of the selection (null: none)
+// and each port that it names, in list order, there is a match for each record that
+// describes the port, or one without a record. A port without a serial number is
+// there once for each entry, whether the entry names it or not. No entry names a port
+// without attributes.
 std::vector<Match> match_selection(const option_input* selection, Identity identity);
 
 // Shows at level 2 the record of a match, which must have one.

@@ -5,10 +5,14 @@
 #include "run/base/diagnostics.h"
 #include "run/base/return_codes.h"
 #include "run/base/settings.h"
+#include "run/base/shell_command.h"
 #include "run/base/signal_hold.h"
 
 #include <cerrno>
+#include <cstdint>
+#include <cstring>
 #include <string>
+#include <string_view>
 #include <sys/stat.h>
 
 namespace {
@@ -122,7 +126,7 @@ std::int32_t flash_adapter(const hba_info& port, const fc_config_file_entry& ent
 
 } // namespace
 
-void print_flashed_port(const hba_info& port) {
+void print_controller_port(const hba_info& port) {
     message(1,
             "\t\tVendor: %s, Model: %s SerialNumber: %s PortType: %s PortNumber: %s "
             "PortFunction: %s\n",
@@ -138,7 +142,7 @@ std::int32_t FlashBladeEngine(hba_info& port, fc_config_file_entry* const& entry
         message(1, "\t%s\n", divider);
     }
     message(1, "\tInstalled controller-device:\n");
-    print_flashed_port(port);
+    print_controller_port(port);
     if (already_flashed) {
         message(1, "\t\tPort index: %d Firmware already flashed => SKIP.\n\n", port.port_index);
         port.flash_done = 1;

@@ -16,4 +16,4 @@ std::int32_t FlashBladeEngine(hba_info& port, fc_config_file_entry* const& entry
                               global_ctrl_flags& flags);
 
 // The port as the flash messages show it.
-void print_flashed_port(const hba_info& port);
+void print_controller_port(const hba_info& port);

@@ -2,6 +2,7 @@
 
 #include "conditions/match.h"
 #include "flash/flash_engine.h"
+#include "inventory/hba_info.h"
 #include "run/base/diagnostics.h"
 #include "run/base/return_codes.h"
 
@@ -10,7 +11,7 @@ namespace {
 void print_missing_serial(const hba_info& port) {
     message(1, "System:\n");
     message(1, "\tFound an adequate installed controller-device:\n");
-    print_flashed_port(port);
+    print_controller_port(port);
     message(1, "\t\tPort index: %d; Ignore this port due to missing serial number  => SKIP.\n",
             port.port_index);
 }

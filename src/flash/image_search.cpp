@@ -3,8 +3,12 @@
 #include "run/base/return_codes.h"
 #include "run/base/text.h"
 
+#include <cstddef>
+#include <cstring>
 #include <dirent.h>
 #include <memory>
+#include <span>
+#include <string_view>
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <cstdint>
 
 // Looks in `directory` (with a trailing "/") for the first file, in directory
-// order, that fits `pattern`: a name that begins with it or, for a pattern
+// order, that matches `pattern`: a name that begins with it or, for a pattern
 // "*.EXT", a name whose last extension begins with EXT. Returns RET_OK with the
 // file's path in `result`, or RET_FW_NOT_AVAILABLE with `result` unchanged.
-// Hidden files and paths that do not fit `result` are passed over.
+// Hidden files and paths that are too long for `result` are passed over.
 std::int32_t FindFlashImage(const char* directory, char (&result)[path_capacity],
                             const char* pattern);

@@ -2,6 +2,11 @@
 
 #include "inventory/report.h"
 #include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
+#include "run/base/text.h"
+
+#include <span>
+#include <string_view>
 
 namespace {
 
@@ -14,7 +19,8 @@ struct Label {
     bool begins_port = false;
 };
 
-// The first row that a line begins with takes it, hence "Model" ahead of "Mode".
+// A line belongs to the first row that it begins with, hence "Model" ahead of
+// "Mode".
 constexpr Label labels[] = {
     {"Port WWN", text_field<&hba_info::port_wwn>, "PortWWN", true},
     {"Node WWN", text_field<&hba_info::node_wwn>, "NodeWWN"},

@@ -2,6 +2,11 @@
 
 #include "inventory/report.h"
 #include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
+#include "run/base/text.h"
+
+#include <span>
+#include <string_view>
 
 namespace {
 
@@ -21,7 +26,7 @@ struct Label {
 
 constexpr bool traced = true;
 
-// The first row that a line begins with takes it, hence "Model Desc" ahead of
+// A line belongs to the first row that it begins with, hence "Model Desc" ahead of
 // "Model".
 constexpr Label labels[] = {
     {"Host Name", text_field<&Entry::host_name>},

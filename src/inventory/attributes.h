@@ -3,6 +3,7 @@
 
 #include "inventory/hba_info.h"
 
+#include <cstdint>
 #include <string>
 
 // Has the CLI report the port and reads that into `attributes`; a port without a serial

@@ -3,7 +3,10 @@
 #include "inventory/vendor_cli.h"
 #include "run/base/diagnostics.h"
 #include "run/base/settings.h"
+#include "run/base/shell_command.h"
+#include "run/base/text.h"
 
+#include <cstring>
 #include <utility>
 
 ReportFile report_file(const char* name) {

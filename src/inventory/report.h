@@ -4,6 +4,7 @@
 
 #include "inventory/hba_info.h"
 #include "run/base/return_codes.h"
+#include "run/base/text.h"
 #include "run/base/text_file.h"
 
 #include <cstdint>

@@ -2,6 +2,12 @@
 
 #include "inventory/report.h"
 #include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
+#include "run/base/text.h"
+
+#include <cstring>
+#include <span>
+#include <string_view>
 
 namespace {
 
@@ -27,8 +33,7 @@ constexpr Label labels[] = {
     {"Block Size", text_field<&Entry::block_size>},
 };
 
-// The report's title takes its first lines: a colon there says nothing about
-// storage.
+// The report begins with its title: a colon there says nothing about storage.
 constexpr int title_lines = 4;
 
 // A line without a colon stores nothing, but shows what the field holds.

@@ -3,6 +3,7 @@
 
 #include "inventory/hba_info.h"
 
+#include <cstdint>
 #include <string>
 
 // Has the CLI report a Fibre Channel or FCoE port and reads that into

@@ -9,6 +9,8 @@
 #include "run/options.h"
 
 #include <array>
+#include <cstddef>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -146,6 +148,14 @@ void check_combinations(const std::array<bool, selection_kinds>& given) {
     }
 }
 
+void switch_off_options() {
+    for (const Option& option : options()) {
+        if (option.setting != nullptr) {
+            *option.setting = 0;
+        }
+    }
+}
+
 void choose_default_check() {
     if (active_option_ctrl_vendor_wide_identical == 0 && active_option_ctrl_wide_identical == 0 &&
         active_option_flash == 0) {
@@ -156,6 +166,7 @@ void choose_default_check() {
 } // namespace
 
 const option_input* read_command_line(const char* program_name, Words words) {
+    switch_off_options();
     normalize_words(words);
     read_levels(words);
     Parse parse{.program_name = program_name, .words = words};

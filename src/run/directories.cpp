@@ -6,9 +6,13 @@
 #include "run/base/settings.h"
 #include "run/base/text.h"
 
+#include <cstddef>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
+#include <span>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 namespace {
@@ -29,6 +33,12 @@ void append(std::span<char> path, std::string_view text) {
 }
 
 } // namespace
+
+void reset_directories() {
+    copy_text(pHBAConditionsPath, "");
+    copy_text(pHBAFirmwarePath, "");
+    copy_text(pHBAWorkingPath, "");
+}
 
 void set_directories(const char* directory) {
     if (std::strlen(directory) > directory_length_max) {

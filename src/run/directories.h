@@ -1,6 +1,9 @@
 // Where a run finds its files.
 #pragma once
 
+// Forgets the three paths, as a run begins.
+void reset_directories();
+
 // Takes over the directory of the command line for the conditions file, the images
 // and the reports. One that is too long ends the process with RET_BAD_CALL.
 void set_directories(const char* directory);

@@ -17,6 +17,8 @@
 #include "run/directories.h"
 #include "run/summary.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 namespace {
@@ -30,7 +32,7 @@ void start_anew() {
     prepare_process();
     close_debug_log();
     set_levels(0, 1, 1);
-    reset_settings();
+    reset_directories();
 }
 
 void read_conditions(const char* program_name) {

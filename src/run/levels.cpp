@@ -5,6 +5,9 @@
 #include "run/base/return_codes.h"
 #include "run/base/text.h"
 
+#include <cstddef>
+#include <cstdint>
+
 namespace {
 
 bool contains(std::string_view word, std::string_view text) {

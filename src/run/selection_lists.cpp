@@ -7,6 +7,7 @@
 #include "run/base/text.h"
 
 #include <array>
+#include <span>
 #include <string>
 
 namespace {

@@ -16,7 +16,7 @@ inline std::int32_t active_option_qmr_mode = 0; // nothing found is no failure
 
 constexpr const char* conditions_file_name = "FC_HBA_Conditions.txt";
 
-// A path holds one character less.
+// The room for a path with its terminating NUL.
 constexpr std::size_t path_capacity = 1024;
 
 // The longest directory that leaves room for "/" and the conditions file's name.
@@ -28,6 +28,3 @@ inline char pHBAConditionsPath[path_capacity]; // the conditions file
 inline char pHBAFirmwarePath[path_capacity];   // the images' directory, with a trailing "/"
 inline char pHBAWorkingPath[path_capacity];    // the reports' directory, with a trailing "/"
 inline char TEMPDIR_BUFFER[4096];              // the temporary directory; shown only
-
-// Puts everything back to what it is before the command line is read.
-void reset_settings();

@@ -21,8 +21,8 @@ constexpr std::string_view plain_characters = "abcdefghijklmnopqrstuvwxyz"
 // Starts the shell for a command that nothing may break off. Some shells clear
 // the mask that they inherit, so it gets a session of its own, out of reach of the
 // terminal and of the tool's process group, and ignores what comes all the same, a
-// closed pipe and a limit of file size or time included. Returns -1 when there is no process to be
-// had.
+// closed pipe and a limit of file size or time included. Returns -1 when there is
+// no process to be had.
 pid_t start_deferred(const char* text) {
     const pid_t child = fork();
     if (child == 0) {
@@ -38,8 +38,8 @@ pid_t start_deferred(const char* text) {
 }
 
 // Starts the shell for any other command; spawning costs less than a fork. The
-// child reacts in the default way to what the tool and downloads ignore. Returns -1 when it can't
-// be started.
+// child reacts in the default way to what the tool and downloads ignore. Returns
+// -1 when it can't be started.
 pid_t start_interruptible(const std::string& text) {
     char shell[] = "sh";
     char option[] = "-c";

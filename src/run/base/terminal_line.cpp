@@ -2,6 +2,7 @@
 
 #include "run/base/diagnostics.h"
 
+#include <cstdio>
 #include <string>
 #include <unistd.h>
 
