@@ -1,161 +1,67 @@
-  $ . "$TESTDIR/setup.sh"
+  $ . "$TESTDIR/setup.sh" && ready() { lay_standin; }
 
-What a report says never starts anything and never leaves the directory.
+What a report says starts nothing and leads nowhere outside of the directory.
 
   $ hostile() {
   >     lay_standin
-  >     sed -i "/^Serial No/s%: .*%: $1%; /^Port WWN/s%: .*%: $1%; /^Permanent/s%: .*%: $1%" cli/reports/local_hba_list.out
-  >     echo "[$1]"
-  >     real -v 6 -pci-id 19A2:0714 >out 2>/dev/null; echo "=> $?"
-  >     grep -A1 -m 2 hbaattributes out
-  >     sort -u cli/calls.log | head -n 3
-  >     find . ! -path './cli*' ! -path './blade/*' -type f | sort
-  >     ls blade | grep -v -e ^FC_HBA -e 10102 -e local_hba | head -n 2
+  >     sed -i "/^Serial No/s%: .*%: $1%; /^Port WWN/s%: .*%: $1%; /^PCI F/s%: 2%: ${2-2}%" cli/reports/local_hba_list.out
+  >     real -v 6 -pci-id 19A2:0714 2>/dev/null >out; status=$?
+  >     sed -n '/hba. *$/d; /hbacmd hbaattributes/p' out | head -n 2
+  >     sed -n 2p cli/calls.log; find . ! -path './cli*' ! -path './blade/*' -type f | sort | xargs; return $status
   > }
-  $ hostile 'a b'
-  [a b]
-  => 12
-  \t\t./hbacmd hbaattributes 'a b' > 'blade//a b_2_hba_attributes.out' (esc)
-  
-  \t\tSuccess, "hbacmd hbaattributes a b" command returned code 0. (esc)
-  
-  hbaattributes [a b]
-  listhbas
-  targetmapping [a b]
-  ./hbacmd
-  ./out
-  a b_0_hba_attributes.out
-  a b_0_target_mapping.out
-  $ hostile '$(touch pwned)'
-  [$(touch pwned)]
-  => 12
-  \t\t./hbacmd hbaattributes '$(touch pwned)' > 'blade//$(touch pwned)_2_hba_attributes.out' (esc)
-  
-  \t\tSuccess, "hbacmd hbaattributes $(touch pwned)" command returned code 0. (esc)
-  
-  hbaattributes [$(touch pwned)]
-  listhbas
-  targetmapping [$(touch pwned)]
-  ./hbacmd
-  ./out
-  $(touch pwned)_0_hba_attributes.out
-  $(touch pwned)_0_target_mapping.out
-  $ hostile ';touch pwned;'
-  [;touch pwned;]
-  => 12
-  \t\t./hbacmd hbaattributes ';touch pwned;' > 'blade//;touch pwned;_2_hba_attributes.out' (esc)
-  
-  \t\tSuccess, "hbacmd hbaattributes ;touch pwned;" command returned code 0. (esc)
-  
-  hbaattributes [;touch pwned;]
-  listhbas
-  targetmapping [;touch pwned;]
-  ./hbacmd
-  ./out
-  ;touch pwned;_0_hba_attributes.out
-  ;touch pwned;_0_target_mapping.out
-  $ hostile '`touch pwned`'
-  [`touch pwned`]
-  => 12
-  \t\t./hbacmd hbaattributes '`touch pwned`' > 'blade//`touch pwned`_2_hba_attributes.out' (esc)
-  
-  \t\tSuccess, "hbacmd hbaattributes `touch pwned`" command returned code 0. (esc)
-  
-  hbaattributes [`touch pwned`]
-  listhbas
-  targetmapping [`touch pwned`]
-  ./hbacmd
-  ./out
-  `touch pwned`_0_hba_attributes.out
-  `touch pwned`_0_target_mapping.out
-  $ hostile "it's|touch pwned"
-  [it's|touch pwned]
-  => 12
-  \t\t./hbacmd hbaattributes 'it'\\''s|touch pwned' > 'blade//it'\\''s|touch pwned_2_hba_attributes.out' (esc)
-  
-  \t\tSuccess, "hbacmd hbaattributes it's|touch pwned" command returned code 0. (esc)
-  
-  hbaattributes [it's|touch pwned]
-  listhbas
-  targetmapping [it's|touch pwned]
-  ./hbacmd
-  ./out
-  it's|touch pwned_0_hba_attributes.out
-  it's|touch pwned_0_target_mapping.out
-  $ hostile '../pwned'
-  [../pwned]
-  => 12
-  \t\t./hbacmd hbaattributes ../pwned > blade//../pwned_2_hba_attributes.out (esc)
-  
-  \t\tFail, "hbacmd hbaattributes ../pwned" command returned code -1. (esc)
-  Error: Could not open file blade//../pwned_2_hba_attributes.out
-  listhbas
-  ./hbacmd
-  ./out
-  $ hostile 'n/a'
-  [n/a]
-  => 12
-  \t\t./hbacmd hbaattributes n/a > blade//n/a_2_hba_attributes.out (esc)
-  
-  \t\tFail, "hbacmd hbaattributes n/a" command returned code 512. (esc)
-  \t\tNo serial number => SKIP! (esc)
-  listhbas
-  ./hbacmd
-  ./out
-  $ hostile 'n/a/../../pwned'
-  [n/a/../../pwned]
-  => 12
-  \t\t./hbacmd hbaattributes n/a/../../pwned > blade//n/a/../../pwned_2_hba_attributes.out (esc)
-  
-  \t\tFail, "hbacmd hbaattributes n/a/../../pwned" command returned code -1. (esc)
-  \t\tNo serial number => SKIP! (esc)
-  listhbas
-  ./hbacmd
-  ./out
-  $ hostile '"*"'
-  ["*"]
-  => 12
-  \t\t./hbacmd hbaattributes '*' > 'blade//*_2_hba_attributes.out' (esc)
-  
-  \t\tSuccess, "hbacmd hbaattributes *" command returned code 0. (esc)
-  
-  hbaattributes [*]
-  listhbas
-  targetmapping [*]
-  ./hbacmd
-  ./out
-  *_0_hba_attributes.out
-  *_0_target_mapping.out
-  $ hostile ''
-  []
-  => 12
-  \t\t./hbacmd hbaattributes  > blade//_2_hba_attributes.out (esc)
-  
-  \t\tSuccess, "hbacmd hbaattributes " command returned code 0. (esc)
-  
-  hbaattributes
-  listhbas
-  targetmapping
-  ./hbacmd
-  ./out
-  _0_hba_attributes.out
-  _0_target_mapping.out
+  $ rows hostile <<'EOF'
+  > 'a b' => 12 \t\t./hbacmd hbaattributes 'a b' > 'blade//a b_2_hba_attributes.out'\n\t\tSuccess, "hbacmd hbaattributes a b" command returned code 0.\nhbaattributes [[]a b]\n./hbacmd ./out\n
+  > '$(touch pwned)' => 12 \t\t./hbacmd hbaattributes '$(touch pwned)' > 'blade//$(t*\nhba*[[]$(*]\n./hbacmd ./out\n
+  > ';touch pwned;' => 12 *';touch pwned;' > 'blade//;*\nhba*[[];*]\n./hbacmd ./out\n
+  > '`touch pwned`' => 12 *'`touch pwned`' > 'blade//`*[[]`*]\n./hbacmd ./out\n
+  > "it's|touch pwned" => 12 *'it'\\\\''s|touch pwned' > 'blade//it'\\\\''s*[[]it's|touch pwned]\n./hbacmd ./out\n
+  > '"*"' => 12 *'\*' > 'blade//\*_2*[[]\*]\n./hbacmd ./out\n
+  > '' => 12 *hbaattributes  > blade//_2*\nhbaattributes\n./hbacmd ./out\n
+  > ../pwned => 12 *hbaattributes ../pwned > blade//../pwned_2*code -1.\n./hbacmd ./out\n
+  > x ../y => 12 *hbaattributes x > blade//x_../_hba*code -1.\n./hbacmd ./out\n
+  > n/a => 12 *code 512.\n./hbacmd ./out\n
+  > n/a/../../pwned => 12 *code -1.\n./hbacmd ./out\n
+  > EOF
 
-The same for a working directory with a blank in its name.
+The same for a directory with a blank in its name; a path that is too long is
+traced, but neither run nor opened.
 
-  $ lay_standin && mv blade 'a $(blade)'
-  $ "$CNATOOL_STANDIN" --conpath 'a $(blade)' -v 6 -pci-id 19A2:0714:1C3E:11C1 | grep -m 2 hbacmd
+  $ in_directory() { lay_standin && mkdir -p "$1" && mv blade/* "$1" && "$CNATOOL_STANDIN" --conpath "$1" -v 6 | grep -e "${2-hbacmd lis}"; sed -n 2p cli/calls.log; }
+  $ in_directory 'a $(blade)'
   ./hbacmd listhbas > 'a $(blade)//local_hba_list.out' 
   Success, "hbacmd listhbas" command returned code 0.
-  $ head -n 2 cli/calls.log
-  listhbas
   hbaattributes [10:00:00:00:c9:b2:00:11]
+  $ d=$(printf %0240d 0) && in_directory $d/$d/$d/$d code.-1 | cut -c 1-30
+  \t\tFail, "hbacmd hbaattributes  (esc)
 
-A path that is too long is traced, but neither run nor opened.
+Nobody reads what the tool says, or waits for its children: the run goes on and
+ends with its status.
 
-  $ lay_standin && d=$(printf %0240d 0) && mkdir -p $d/$d/$d/$d && mv blade/* $d/$d/$d/$d
-  $ "$CNATOOL_STANDIN" --conpath $d/$d/$d/$d -v 6 | grep -o -e 'Fail.*' -e 'Error: Could not open'
-  Fail, "hbacmd hbaattributes 10:00:00:00:c9:b2:00:11" command returned code -1.
-  Error: Could not open
-  $ cat cli/calls.log
-  listhbas
+  $ lay_blade && invalid='-v 6 -pci-id 19A2:0714:1C3E:11C2'
+  $ simulated $invalid >&-
+  [4]
+  $ simulated $invalid >/dev/full
+  [4]
+  $ simulated $invalid <&- >&- 2>&-
+  [4]
+  $ { simulated $invalid; echo "=> $?" >&2; } | true
+  => 4
+  $ lay_standin && (trap '' CHLD; real --flash -pci-id 19A2:0700 >&-) && grep -c download cli/calls.log
+  3
+
+A debug run is silent on the screen and writes its log anew for its owner alone, up
+to an early end; without a level there is none, and nothing is written through a
+link or into somebody else's file.
+
+  $ lay_blade && log=blade/Merlie_DLL.log && echo old >$log && chmod 644 $log && rm blade/local_hba_list.out
+  $ simulated -d 1; stat -c %a $log; cat $log
+  600
+  Error: Could not open file blade//local_hba_list.out
+  
+  No Blade Engine was found in this system.
+  
+  $ rm $log && simulated -d 0; simulated -d 6 --silent; simulated -v 6 >/dev/null; ls blade | grep -c Merlie
+  0
+  [1]
+  $ echo precious >target && for make in 'ln -s ../target' 'ln target' mkfifo; do $make $log && simulated -d 6; rm $log; done; cat target
+  precious

@@ -1,13 +1,14 @@
 # shellcheck shell=sh
-# What the scenarios share; each runs in an empty directory of its own.
-# CNATOOL is the program as it is shipped, CNATOOL_STANDIN the same objects with
-# the vendor CLI's path set to ./hbacmd.
+# What the scenarios share; each runs in an empty directory of its own. CNATOOL is
+# the program as it is shipped, CNATOOL_STANDIN the same code with ./hbacmd as the
+# vendor CLI.
 
 example=$TESTDIR/../../examples/blade
 unset TMPDIR
 
-# The program with prepared reports, and with the stand-in.
-simulated() { "$CNATOOL" --simulate --conpath blade "$@"; }
+tool() { "$CNATOOL" "$@"; }
+# With prepared reports, and with the stand-in.
+simulated() { tool --simulate --conpath blade "$@"; }
 real() { "$CNATOOL_STANDIN" --conpath blade "$@"; }
 
 # Lays the example as the working directory "blade".
@@ -20,16 +21,36 @@ lay_standin() {
     mv blade/*.out cli/reports/ && cp "$TESTDIR/../hbacmd" .
 }
 
-# Runs the program once for each line of words on standard input, and tells
-# its status.
-each() {
-    while IFS= read -r words; do
-        echo "[$words]"
-        status=0
-        eval "\"$CNATOOL\" $words" </dev/null || status=$?
-        echo "=> $status"
+# Calls the function $1 once for each row on standard input; a row that holds prints
+# nothing. A row is "[PREPARATION ::] WORDS => STATUS [PATTERN]": the pattern, a
+# shell pattern with \n and \t, must fit all that is printed. $2 lays what the rows
+# need: once, but anew for a preparation, and for each row that calls the stand-in.
+rows() {
+    laid=
+    while IFS= read -r row; do
+        words=${row%% => *} expected=${row#* => } preparation=
+        case $words in *' :: '*) preparation=${words%% :: *} words=${words#* :: } laid= ;; esac
+        [ -n "$laid" ] || ${2-:}
+        laid=yes && eval "$preparation"
+        [ -z "$preparation" ] && [ "${2-}" != lay_standin ] || laid=
+        came=$(eval "$1 $words" 2>&1 </dev/null; echo " => $?")
+        pattern=$(printf '%b ' "${expected#"${expected%% *}"}")
+        pattern=${pattern# } pattern="${pattern% } => ${expected%% *}"
+        # It is a pattern.
+        # shellcheck disable=SC2254
+        case $came in $pattern) ;; *) printf '%s\ncame:\n%s\n' "$row" "$came" | cat -A ;; esac
     done
 }
 
-# Keeps the lines on standard input that begin with one of the words given.
-only() { grep -E "^($(echo "$@" | tr ' ' '|'))"; }
+# Tells of a call with the words given at each level how many lines it prints, 0 to
+# 6, then how many a debug run logs, then the checksum of it all.
+profile() {
+    : >all
+    for level in 0 1 2 3 4 5 6; do
+        simulated -v "$level" "$@" >out 2>&1
+        cat out >>all && printf '%s ' "$(wc -l <out)"
+    done
+    simulated -d 6 "$@" >>all
+    cat blade/Merlie_DLL.log >>all
+    printf '%s, %s\n' "$(wc -l <blade/Merlie_DLL.log)" "$(cksum <all)"
+}

@@ -1,0 +1,189 @@
+  $ . "$TESTDIR/setup.sh"
+
+A passing check of one port, whole, at the level that shows everything.
+
+  $ lay_blade && cd blade && sed -i '/0714.*11C1/!d' FC_HBA_Conditions.txt
+  $ sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; s/Function *: 2/Function: 0/' local_hba_list.out
+  $ for report in hba_attributes target_mapping; do
+  >     sed '/^FCP LUN.*1$/,$d' VM10250117_2_$report.out >VM10250117_0_$report.out
+  > done && cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1
+  
+  List of input pci-ids: "19A2:0714:1C3E:11C1"
+  
+  \tVendor-Id 0x19a2 (esc)
+  \tDevice-Id 0x714 (esc)
+  \tSubVendor-Id 0x1c3e (esc)
+  \tSubDevice-Id 0x11c1 (esc)
+  env: Environment variable TMPDIR is not set.
+  HBA conditions file: blade/FC_HBA_Conditions.txt
+               Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 |         FCoE |         PCIe |     fm10102- |              |   2012-11-05 |            x |          DGC |   Marlovan_CX,CX4- |            x          NRB |       Marlovan_SX1 |            x
+  
+  *********+*********+*********+*********+*********+*********+*********+*********+
+  
+  List of allowed Fibre-Channel-Controller and Online-Storage-System combinations:
+  
+  Emulex     CNA-10102-F     
+  \t\t1) DGC        Marlovan_CX,CX4- (esc)
+  \t\t2) NRB        Marlovan_SX1     (esc)
+  
+  
+  *********+*********+*********+*********+*********+*********+*********+*********+
+  /usr/sbin/ocmanager/hbacmd listhbas > blade//local_hba_list.out 
+  
+  Success, "hbacmd listhbas" command returned code 0.
+  
+  1)\tPortWWN: 10:00:00:00:c9:a1:00:11 (esc)
+  \tNodeWWN: 20:00:00:00:c9:a1:00:11 (esc)
+  \tFabric_Name: 10:00:00:05:33:7e:01:00 (esc)
+  \t8000e20b (esc)
+  \tblade07 (esc)
+  \tEmulex Corporation (esc)
+  \tVM10250117 (esc)
+  \t0 (esc)
+  \tInitiator (esc)
+  \t12 (esc)
+  \t0 (esc)
+  \tFCoE (esc)
+  \tCNA-10102-FM (esc)
+  
+  \t\t/usr/sbin/ocmanager/hbacmd hbaattributes 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_hba_attributes.out (esc)
+  
+  \t\tSuccess, "hbacmd hbaattributes 10:00:00:00:c9:a1:00:11" command returned code 0. (esc)
+  
+  \t\tHBA Attributes for 10:00:00:00:c9:a1:00:11 (esc)
+  
+  \t\tVM10250117 (esc)
+  \t\tCNA-10102-FM (esc)
+  \t\t2 (esc)
+  \t\t4.6.142.10 (esc)
+  \t\t19A2 (esc)
+  \t\t0714 (esc)
+  \t\tCNA-10102-FM (esc)
+  \t\t4.6.142.10 (esc)
+  \t\t8.3.5.68.5p; HB (esc)
+  \t\tFCoE (esc)
+  \t\t11C1 (esc)
+  \t\t1C3E (esc)
+  \t\tnone (esc)
+  
+  \t\t\t/usr/sbin/ocmanager/hbacmd targetmapping 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_target_mapping.out (esc)
+  
+  \t\t\tSuccess, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 0. (esc)
+  
+  \t\t\tTarget Mapping for 10:00:00:00:c9:a1:00:11 (esc)
+  \t\t\t0000000000000000 (esc)
+  \t\t\t0 (esc)
+  \t\t\t/dev/sdb (esc)
+  \t\t\tDGC (esc)
+  \t\t\tMarlovan_CX1 (esc)
+  \t\t\t0430 (esc)
+  \t\t\tDisk (esc)
+  \t\t\t102400 MB (esc)
+  \t\t\t512 Bytes (esc)
+  
+  
+  Original input list.
+  
+  0\tCNA-10102-FM FCoE VM10250117 0 0 (esc)
+  
+  
+  List of CNA controller.
+  
+  0\tCNA-10102-FM FCoE VM10250117 0 0 (esc)
+  
+  Only FC ports detected.
+  
+  
+  Total Result after PCI function sort.
+  
+  0\tCNA-10102-FM FCoE VM10250117 0 0 (esc)
+  
+  ******************************************************************************** 
+  
+  List of Fibre-Channel-Controller and attached Online-Storage-Systems:
+  
+    Emulex Corporation\tCNA-10102-FM\tFCoE\tVM10250117  port 0  function 0 (esc)
+  
+  \tDGC (esc)
+  \tMarlovan_CX1 (esc)
+  \t0430 (esc)
+  
+  
+  ********************************************************************************
+  
+  InvalidCtrlSubsystemCombinationFound: 0 
+  MatchingCtrlModelInstalled: 0 
+  CtrlVendorSpecificSubsystemEquality: 1 
+  CtrlSpecificSubsystemEquality: 1 
+  
+  
+  *********+*********+*********+*********+*********+*********+*********+*********+
+  *********+*********+*********+*********+*********+*********+*********+*********+
+  \tFC_HBA_Conditions.txt: (esc)
+  \tFound a matching controller-device in line 1: (esc)
+  \t\tvendor-id: 19A2, device-id: 0714 (esc)
+  \t\tsubvendor-id: 1C3E, subdevice-id: 11C1 (esc)
+  \t\tCorrespondig data: vendor: Emulex; model: CNA-10102-F (esc)
+  
+  
+  \t\t---------+---------+---------+---------+---------+---------+---------+---------+ (esc)
+  
+  \t\tPerform subsystem check for: (esc)
+  \t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0 (esc)
+  
+  \t\tAttached storage sub-system: (esc)
+  \t\t\t\tDGC (esc)
+  \t\t\t\tMarlovan_CX1 (esc)
+  \t\t\t\t0430 (esc)
+  \t\t\tCheck subsystem: 'Marlovan_CX' Attached subsystem: 'Marlovan_CX1'\t\t\t--> OK (esc)
+  \tAlready identified reference subsystems: Marlovan_CX  Subsystem group: Marlovan_CX,CX4- (esc)
+  \tReference subsystem Marlovan_CX found in Group: Marlovan_CX,CX4- (esc)
+  \t\t\tAll reference subsystems appear in the same group: Marlovan_CX,CX4- (esc)
+  
+  \t\tTake this sub-system as reference-sub-system for this controller-device. (esc)
+  \t\t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0 (esc)
+  
+  \t\tTake this sub-system as reference-sub-system for vendor Emulex Corporation. (esc)
+  \t\t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0 (esc)
+  ---------+---------+---------+---------+---------+---------+---------+---------+
+  
+  *********+*********+*********+*********+*********+*********+*********+*********+
+  *********+*********+*********+*********+*********+*********+*********+*********+
+  
+  OverallSubSystemCheck returned: 1 
+  InvalidCtrlSubsystemCombinationFound: 0 
+  MatchingCtrlModelInstalled: 1 
+  CtrlVendorSpecificSubsystemEquality: 1 
+  CtrlSpecificSubsystemEquality: 1 
+
+Runs of the whole example: the lines of each level and of the debug log, and a
+checksum. A message or a gate that has moved is seen here.
+
+  $ lay_blade && selection='-pci-id 19A2:0714'
+  $ profile $selection
+  0 64 82 95 219 224 824 795, 905387853 72769
+  $ profile --ctrl-wide-identical --ctrl-vendor-wide-identical $selection:1C3E:11C1
+  0 32 40 53 117 122 680 651, 4286484425 45473
+  $ profile --ctrl-vendor-wide-identical $selection
+  0 64 82 95 219 224 824 795, 3277781542 72769
+  $ profile --flash -pci-id 19A2:0700
+  0 54 54 60 112 117 693 664, 1072118701 44931
+  $ profile --flash --check-for-valid-subsystem $selection
+  0 152 170 184 308 313 945 916, 3890420282 97700
+  $ profile -pci-id 19A2:0712:1C3E:11D0,10DF:F100
+  0 0 0 13 65 70 633 599, 436494938 30310
+  $ profile -vid 19A2 -vn Emulex
+  0 3 3 7 7 7 7 599, 627639398 13377
+  $ profile -vid 19A2,19A2 -dev 0714,0700 -subvid 1C3E -subdev 11C1
+  0 44 56 77 219 224 847 815, 3669084969 71417
+  $ sed -i 's/\(^Serial No.*\): VM1.*/\1: n\/a/' blade/local_hba_list.out
+  $ profile $selection
+  0 38 46 59 139 144 624 595, 3417425305 50581
+  $ profile --flash -pci-id 19A2:0700
+  0 53 53 59 103 108 564 535, 1007206024 42447
+  $ rm blade/VM20713302_3_target_mapping.out && profile --ctrl-wide-identical $selection
+  0 27 31 44 120 125 553 524, 1721085107 43706
+  $ echo '# none' >blade/FC_HBA_Conditions.txt && rm blade/VM20713302_2_hba_attributes.out && profile $selection
+  0 1 1 14 36 36 256 241, 2383008433 14293
+  $ rm blade/FC_HBA_Conditions.txt && profile $selection
+  0 4 4 8 8 8 13 5, 1076371069 1376
