@@ -8,8 +8,7 @@ man page every status, the program the project's version.
   25
   $ sed 's/\\//g' "$project"/man/cnatool.8* | grep -A 1 '^\.TP' >heads
   $ grep '^\.B' heads | tr ' ' '\n' | grep ^- | sort_words | diff options -
-  $ tool --show-return-codes | grep -oE 'RET_.*' | sort_words >statuses
-  $ sed -n '/ RET_/p' heads | sort_words | diff statuses -
+  $ tool --show-return-codes | sed -E 's/ *(RET_[A-Z_]*) *([0-9]+)/\2 \1/; t; d' >statuses; grep ' RET_' heads | diff statuses -
   $ sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' "$project/CMakeLists.txt" >version && tool --version | diff version -
 
 Completion offers nothing that a word on the line excludes, nothing twice, and
@@ -42,23 +41,20 @@ The shell recipe, with a program that ends as it is told.
   > [ -z "$OVERFLOW" ] || echo "strtoul: too long" >&2
   > exit "$CHECK"
   > EOF
-  $ run_recipe() { CHECK=$1 FLASH=$2 OVERFLOW=${3-} TOOL=./stub; export CHECK FLASH OVERFLOW TOOL; sh recipe >out 2>&1; echo "$* => $?: $(tail -n 1 out)"; }
-  $ for status in 0 1 2 3 4 12 13 15 22 54 55 137; do run_recipe $status 0; done
-  0 0 => 0: go on: status 0
-  1 0 => 1: storage: status 1, leave this blade out
-  2 0 => 1: storage: status 2, leave this blade out
-  3 0 => 3: set-up: status 3
-  4 0 => 1: storage: status 4, leave this blade out
-  12 0 => 0: go on: status 12
-  13 0 => 0: go on: status 13
-  15 0 => 3: set-up: status 15
-  22 0 => 3: set-up: status 22
-  54 0 => 3: set-up: status 54
-  55 0 => 3: set-up: status 55
-  137 0 => 3: set-up: status 137
-  $ for status in 10 12 20 21; do run_recipe 0 $status; done; run_recipe 1 0 overflow
-  0 10 => 2: flash: status 10, do not restart, stop the fleet
-  0 12 => 0: go on: status 12
-  0 20 => 2: flash: status 20, do not restart, stop the fleet
-  0 21 => 2: flash: status 21, do not restart, stop the fleet
-  1 0 overflow => 3: set-up: a number is too long
+  $ recipe() { CHECK=$1 FLASH=$2 OVERFLOW=${3-} TOOL=./stub; export CHECK FLASH OVERFLOW TOOL; sh recipe 2>&1; echo "=> $?"; }
+  $ for status in 0 1 2 3 4 12 13 15 22 54 55 137; do recipe $status 0 | tail -n 1; done | xargs
+  => 0 => 1 => 1 => 3 => 1 => 0 => 0 => 3 => 3 => 3 => 3 => 3
+  $ for status in 10 12 20 21; do recipe 0 $status | tail -n 1; done | xargs
+  => 2 => 0 => 2 => 2
+  $ recipe 0 20; recipe 4 0; recipe 3 0; recipe 1 0 overflow; recipe 12 0
+  flash: status 20, do not restart, stop the fleet
+  => 2
+  storage: status 4, leave this blade out
+  => 1
+  set-up: status 3
+  => 3
+  strtoul: too long
+  set-up: a number is too long
+  => 3
+  go on: status 12
+  => 0

@@ -2,43 +2,35 @@
   $ all='--flash -pci-id 19A2:0700' fx=--flash\ -pci-id\ 19A2:0700:1C3E:11C2 fm=--flash\ -pci-id\ 19A2:0700:1C3E:11C1
   $ told() { real "$@"; status=$?; sed -n 's/download//p' cli/calls.log; return $status; }
 
-Firmware and BIOS are written once for each adapter through its flash port.
+The firmware and, where one is named, the BIOS are written once for each adapter,
+through its flash port.
 
-  $ lay_standin && real $fx
+  $ lay_standin && real $fm
   \tInstalled controller-device: (esc)
-  \t\tVendor: Emulex Corporation, Model: CNA-10102-FX SerialNumber: VM20713302 PortType: NIC PortNumber: 0 PortFunction: 0 (esc)
+  \t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: NIC PortNumber: 0 PortFunction: 0 (esc)
   \t\tPort index: 0. (esc)
   
-  \tFirmware path: blade/CNA-10102-FX (esc)
-  \t\tLook for firmware file: *.ufi (esc)
-  \t\tFound BIOS- or firmware-image: blade/CNA-10102-FX/fx-4.6.142.10.ufi '*.ufi' (esc)
-  \t\tLook for BIOS file: *.grp (esc)
-  \t\tFound BIOS- or firmware-image: blade/CNA-10102-FX/fx-bios-4.6.141.grp '*.grp' (esc)
-  \t\t\tFirmware file found: blade/CNA-10102-FX/fx-4.6.142.10.ufi (esc)
+  \t\tFirmware directory is not available: blade/CNA-10102-FM (esc)
+  
+  \tFirmware path: blade/ (esc)
+  \t\tLook for firmware file: fm10102- (esc)
+  \t\tFound BIOS- or firmware-image: blade/fm10102-4.6.142.10.ufi 'fm10102-' (esc)
+  \t\t\tFirmware file found: blade/fm10102-4.6.142.10.ufi (esc)
   
   \tNow start flashing the firmware. (esc)
   \t\tFlash command is:  (esc)
-  \t\t./hbacmd download 00:00:c9:b2:00:01 blade/CNA-10102-FX/fx-4.6.142.10.ufi >> blade/CNA-10102-FX//FWtrace.out (esc)
-  
-  \t\tSuccess, flash command returned code 0. (esc)
-  
-  \t\t\tBIOS file found: blade/CNA-10102-FX/fx-bios-4.6.141.grp (esc)
-  
-  \tNow start flashing the BIOS. (esc)
-  \t\tFlash command is:  (esc)
-  \t\t./hbacmd download 00:00:c9:b2:00:01 blade/CNA-10102-FX/fx-bios-4.6.141.grp >> blade/CNA-10102-FX//FWtrace.out (esc)
+  \t\t./hbacmd download 00:00:c9:a1:00:01 blade/fm10102-4.6.142.10.ufi >> blade//FWtrace.out (esc)
   
   \t\tSuccess, flash command returned code 0. (esc)
   
   
   \t---------+---------+---------+---------+---------+---------+---------+---------+ (esc)
   \tInstalled controller-device: (esc)
-  \t\tVendor: Emulex Corporation, Model: CNA-10102-FX SerialNumber: VM20713302 PortType: NIC PortNumber: 1 PortFunction: 1 (esc)
+  \t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: NIC PortNumber: 1 PortFunction: 1 (esc)
   \t\tPort index: 0 Firmware already flashed => SKIP. (esc)
   
-  $ cat blade/CNA-10102-FX/FWtrace.out
-  Downloaded blade/CNA-10102-FX/fx-4.6.142.10.ufi to 00:00:c9:b2:00:01
-  Downloaded blade/CNA-10102-FX/fx-bios-4.6.141.grp to 00:00:c9:b2:00:01
+  $ cat blade/FWtrace.out
+  Downloaded blade/fm10102-4.6.142.10.ufi to 00:00:c9:a1:00:01
 
 Any other function does not count as the adapter's flash. A failing download ends
 the run, an image that is missing is found out before anything is written. A check
@@ -46,7 +38,7 @@ beside it must pass first.
 
   $ rows told lay_standin <<'EOF'
   > --silent $all => 0 *b2:00:01] [[]blade/CNA-10102-FX/fx-4*ufi]\n*fx-b*grp]\n*a1:00:01] [[]blade/fm10*ufi]\n
-  > $fm => 0 *SerialNumber: VM1*PortNumber: 0*\t\tFirmware directory is not available: blade/CNA-10102-FM\n\n\tFirmware path: blade/\n*file found: blade/fm*:a1:00:01 blade/fm* >> blade//FWtrace.out\n\n\t\tSuccess*SKIP.\n\n *ufi]\n
+  > $fx => 0 *\tFirmware path: blade/CNA-10102-FX\n*'\*.ufi'\n\t\tLook for BIOS file: \*.grp\n*fx-b*'\*.grp'\n*\t\t\tBIOS file found: blade/CNA-10102-FX/fx-bios-4.6.141.grp\n\n\tNow start flashing the BIOS.\n\t\tFlash command is: \n\t\t./hbacmd download 00:00:c9:b2:00:01 blade/CNA*grp >> blade/CNA-10102-FX//FWtrace.out\n\n\t\tSuccess*
   > -v 6 $fm => 0 *\t---*+\n\n\tFC_HBA_Conditions.txt:\n\tFound a matching controller-device in line 3:\n*
   > --silent --flash -pci-id 19A2:0714:1C3E:11C1 => 0  [[]*a1:00:01]*\n [[]*a1:00:01]*]\n
   > $all --simulate --silent => 13 sed:*
@@ -106,38 +98,22 @@ before the tool ends, ahead of the next one. Not even a CLI with handlers of its
 or one whose reader has gone, is broken off. The inventory can be.
 
   $ interrupted() {
-  >     lay_standin && echo "$2; echo '1: download finished' >>cli/calls.log" >"cli/$1"
-  >     setsid sh -c 'trap - INT TERM HUP QUIT; echo $$ >cli/pid; exec "$0" --conpath blade '"$fm" "$CNATOOL_STANDIN" >out 2>&1; echo "=> $?"
-  >     grep "command returned" out; sed -n 's/.*download//p' cli/calls.log
+  >     lay_standin && echo "$2; echo finished >>cli/calls.log" >"cli/$1"
+  >     setsid sh -c 'trap - INT TERM HUP QUIT; echo $$ >cli/pid; exec "$0" --conpath blade '"$fm" "$CNATOOL_STANDIN" >out 2>&1
+  >     echo "=> $?" $(grep -o "Success, flash.*" out) $(tail -n 1 cli/calls.log)
   > }
   $ for signal in INT TERM HUP QUIT; do interrupted call18 "kill -s $signal -- -\$(cat cli/pid) \$PPID \$\$; sleep 0.1"; done 2>/dev/null
-  => 130
-  \t\tSuccess, flash command returned code 0. (esc)
-   [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]
-   finished
-  => 143
-  \t\tSuccess, flash command returned code 0. (esc)
-   [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]
-   finished
-  => 129
-  \t\tSuccess, flash command returned code 0. (esc)
-   [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]
-   finished
-  => 131
-  \t\tSuccess, flash command returned code 0. (esc)
-   [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]
-   finished
+  => 130 Success, flash command returned code 0. finished
+  => 143 Success, flash command returned code 0. finished
+  => 129 Success, flash command returned code 0. finished
+  => 131 Success, flash command returned code 0. finished
   $ interrupted call18 "sh -c 'trap \"exit 9\" INT TERM; kill -s INT -- -\$(cat cli/pid); sleep 0.1'"
-  => 130
-  \t\tSuccess, flash command returned code 0. (esc)
-   [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]
-   finished
+  => 130 Success, flash command returned code 0. finished
   $ lay_standin && echo 'sleep 0.1; echo progress >&2 || :; echo finished >>cli/calls.log' >cli/call18
-  $ (told $fx 2>&1; echo "=> $?" >status) | head -n 1; cat status; tail -n 3 cli/calls.log
+  $ (told $fx 2>&1; echo "=> $?" >status) | head -n 1; cat status; tail -n 2 cli/calls.log | cut -c 1-20
   \tInstalled controller-device: (esc)
   => 0
-  download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]
   finished
-  download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-bios-4.6.141.grp]
+  download [00:00:c9:b
   $ interrupted call3 'kill -INT $(cat cli/pid); sleep 0.1'
-  => 130
+  => 130 hbaattributes [10:00:00:00:c9:b2:00:12]

@@ -3,10 +3,10 @@
 A passing check of one port, whole, at the level that shows everything.
 
   $ lay_blade && cd blade && sed -i '/0714.*11C1/!d' FC_HBA_Conditions.txt
-  $ sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; s/Function *: 2/Function: 0/' local_hba_list.out
-  $ for report in hba_attributes target_mapping; do
-  >     sed '/^FCP LUN.*1$/,$d' VM10250117_2_$report.out >VM10250117_0_$report.out
-  > done && cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1
+  $ sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; /Node\|Fab\|Host\|Mode \|Bus/d; s/Function *: 2/Function: 0/' local_hba_list.out
+  $ sed '/Vers\|HW\|Oper/d' VM10250117_2_hba_attributes.out >VM10250117_0_hba_attributes.out
+  $ sed '/^FCP LUN.*1$/,$d; /SCSI [OC]\|Block/d' VM10250117_2_target_mapping.out >VM10250117_0_target_mapping.out
+  $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1
   
   List of input pci-ids: "19A2:0714:1C3E:11C1"
   
@@ -33,15 +33,10 @@ A passing check of one port, whole, at the level that shows everything.
   Success, "hbacmd listhbas" command returned code 0.
   
   1)\tPortWWN: 10:00:00:00:c9:a1:00:11 (esc)
-  \tNodeWWN: 20:00:00:00:c9:a1:00:11 (esc)
-  \tFabric_Name: 10:00:00:05:33:7e:01:00 (esc)
   \t8000e20b (esc)
-  \tblade07 (esc)
   \tEmulex Corporation (esc)
   \tVM10250117 (esc)
   \t0 (esc)
-  \tInitiator (esc)
-  \t12 (esc)
   \t0 (esc)
   \tFCoE (esc)
   \tCNA-10102-FM (esc)
@@ -54,13 +49,9 @@ A passing check of one port, whole, at the level that shows everything.
   
   \t\tVM10250117 (esc)
   \t\tCNA-10102-FM (esc)
-  \t\t2 (esc)
-  \t\t4.6.142.10 (esc)
   \t\t19A2 (esc)
   \t\t0714 (esc)
   \t\tCNA-10102-FM (esc)
-  \t\t4.6.142.10 (esc)
-  \t\t8.3.5.68.5p; HB (esc)
   \t\tFCoE (esc)
   \t\t11C1 (esc)
   \t\t1C3E (esc)
@@ -72,14 +63,11 @@ A passing check of one port, whole, at the level that shows everything.
   
   \t\t\tTarget Mapping for 10:00:00:00:c9:a1:00:11 (esc)
   \t\t\t0000000000000000 (esc)
-  \t\t\t0 (esc)
   \t\t\t/dev/sdb (esc)
   \t\t\tDGC (esc)
   \t\t\tMarlovan_CX1 (esc)
   \t\t\t0430 (esc)
   \t\t\tDisk (esc)
-  \t\t\t102400 MB (esc)
-  \t\t\t512 Bytes (esc)
   
   
   Original input list.
@@ -168,14 +156,10 @@ checksum. A message or a gate that has moved is seen here.
   0 64 82 95 219 224 824 795, 3277781542 72769
   $ profile --flash -pci-id 19A2:0700
   0 54 54 60 112 117 693 664, 1072118701 44931
-  $ profile --flash --check-for-valid-subsystem $selection
-  0 152 170 184 308 313 945 916, 3890420282 97700
   $ profile -pci-id 19A2:0712:1C3E:11D0,10DF:F100
   0 0 0 13 65 70 633 599, 436494938 30310
-  $ profile -vid 19A2 -vn Emulex
-  0 3 3 7 7 7 7 599, 627639398 13377
-  $ profile -vid 19A2,19A2 -dev 0714,0700 -subvid 1C3E -subdev 11C1
-  0 44 56 77 219 224 847 815, 3669084969 71417
+  $ profile --flash --check-for-valid-subsystem -vid 19A2,19A2 -dev 0714,0700 -subvid 1C3E -subdev 11C1
+  0 44 56 77 219 224 843 811, 210623226 71125
   $ sed -i 's/\(^Serial No.*\): VM1.*/\1: n\/a/' blade/local_hba_list.out
   $ profile $selection
   0 38 46 59 139 144 624 595, 3417425305 50581
