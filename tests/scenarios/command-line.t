@@ -37,6 +37,7 @@ Levels are read before everything else, whatever silences them before that.
   > -v 29999999999999999999999999999 => 1 strtoul: Numerical result out of range\n
   > -v ' 2 ' --version => 0 *.*.*.*\n
   > --silent -v 3 --version => 0
+  > x--silent -v 9 => 3
   > x--silent --version => 0
   > -v--version => 3 \n\nInvalid*
   > EOF
