@@ -112,45 +112,33 @@ int main() {
     const auto run = [&](const BladeFile& file, const std::string& content) {
         run_with(file, content, ++runs % 2 == 0);
     };
-    const auto change = [](int kind, const std::string& line) {
-        switch (kind) {
-        case 0:
-            return line + "\n" + line;
-        case 1:
-            return line.substr(0, line.size() / 2) + '\0' + line;
-        case 2:
-            return line + "\r";
-        case 3:
-            return line + "\xff\xe4%s%n$(x)';|";
-        case 4:
-            return std::string();
-        case 5:
-            return line + std::string(100000, '9');
-        default:
-            return line + std::string(1015U + static_cast<unsigned>(kind) - line.size(), '9');
-        }
-    };
-    for (int index = 0; index < 4; ++index) {
-        const BladeFile& file = blade[index];
-        const std::string& content = file.content;
-        for (std::size_t length = 0; length < content.size(); ++length) {
-            run(file, content.substr(0, length));
-        }
+    const std::string endings[] = {"\r", "\xff\xe4%s%n$(x)';|", std::string("\0x", 2)};
+    for (const BladeFile* file = blade; file != blade + 4; ++file) {
+        const std::string& content = file->content;
         std::string repeated = content;
         for (int i = 0; i < 500; ++i) {
-            index == 0 ? repeated.insert(repeated.find(" |x\n") + 3, "|D|C|x")
-                       : repeated += content;
+            file == blade ? repeated.insert(content.find(" |x\n") + 3, "|D|C|x")
+                          : repeated += content;
         }
-        run(file, repeated);
-        for (int kind = 0; kind < 11; ++kind) {
+        run(*file, repeated);
+        for (std::size_t length = 0; length < content.size(); ++length) {
+            run(*file, content.substr(0, length));
+        }
+        for (std::size_t kind = 0; kind < 10; ++kind) {
             std::string all;
             for (std::size_t start = 0, end = 0; start < content.size(); start = end + 1) {
                 end = content.find('\n', start);
-                const std::string changed = change(kind, content.substr(start, end - start));
-                run(file, content.substr(0, start) + changed + content.substr(end));
-                all += changed + "\n";
+                std::string line = content.substr(start, end - start);
+                line =
+                    kind < 3   ? line + endings[kind]
+                    : kind < 4 ? line + "\n" + line
+                    : kind < 5
+                        ? ""
+                        : line + std::string((kind < 6 ? 100000 : 1016 + kind) - line.size(), '9');
+                run(*file, content.substr(0, start) + line + content.substr(end));
+                all += line + "\n";
             }
-            run(file, all);
+            run(*file, all);
         }
     }
     std::fprintf(stderr, "%d runs\n", runs);

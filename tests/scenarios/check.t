@@ -56,10 +56,10 @@ The storage of one port against a conditions record with the subsystems given.
   > }
   $ rows judged <<'EOF'
   > 'NRB| |x' => 0 \n\t\tAttached storage sub-system:\n\t\t\t\tNRB\n\t\t\t\tMarlovan_SX1\n\t\t\t\t7.12\n\n\n*
-  > 'NRB|Marlovan_SX|x' => 0 *12\n\t\tCheck subsystem: 'Marlovan_SX' Attached subsystem: 'Marlovan_SX1'\t\t\t--> OK\n\tAlready identified reference subsystems: Marlovan_SX  Subsystem group: Marlovan_SX\n\tReference subsystem Marlovan_SX found in Group: Marlovan_SX\n\t\t\tAll reference subsystems appear in the same group: Marlovan_SX\n\n*
-  > 'NRB|Marlovan_SX10|x' => 4 *12\n\t\tCheck subsystem: 'Marlovan_SX10' Attached subsystem: 'Marlovan_SX1'\t\t\t--> Invalid subsystem!\n\n\n
+  > 'NRB|Marlovan_SX|x' => 0 *12\n\t\tCheck subsystem: 'Marlovan_SX' Att*--> OK\n\tAl*\n\tRef*\n\t\t\tAll*: Marlovan_SX\n\n*
+  > 'NRB|Marlovan_SX10|x' => 4 *12\n\t\tCheck*_SX10' Attached*_SX1'\t\t\t--> Invalid subsystem!\n\n\n
   > 'nrb|Marlovan_SX1|x' => 4 \n\n
-  > 'NRB|A,Marlovan_SX1|x' => 0 *\t\t\tCheck subsystem: 'A' Attached subsystem: 'Marlovan_SX1'\t\t\t--> Invalid subsystem!\n\t\tCheck*--> OK\n\tAl*_SX1  Sub*found in Group: A,Marlovan_SX1\n*
+  > 'NRB|A,Marlovan_SX1|x' => 0 *\t\t\tCheck*'A'*!\n\t\tCheck*--> OK\n\tAl*_SX1  Sub*found in Group: A,Marlovan_SX1\n*
   > 'NRB|Marlovan_SX1,A|x' => 0 *12\n\t\t\tCheck*'Marlovan_SX1'*--> OK\n\tAl*Group: Marlovan_SX1,A\n*
   > 'NRB|A,,B|x' => 0 *12\n\t\t\tCheck*'A'*!\n\t\t\tCheck subsystem: ''*--> OK\n\n*
   > 'NRB|A,B,|x' => 4 *12\n\t\t\tCheck*'A'*!\n\t\t\tCheck*'B'*!\n\t\tCheck subsystem: ''*!\n\n\n

@@ -22,13 +22,13 @@ Levels are read before everything else, whatever silences them before that.
 
   $ rows tool <<'EOF'
   > -v 7 -h => 3 Please enter a valid verbose-level (-v <verbose-level>; min 0 - max 6)!\n
-  > -v => 3 Please enter a valid verbose*
-  > -v -1 => 3 Please enter a valid verbose*
-  > -v '' => 3 Please enter a valid verbose*
-  > -v3 4 => 3 Please enter a valid verbose*
-  > -version 1 => 3 Please enter a valid verbose*
+  > -v => 3 Please*verbose*
+  > -v -1 => 3 Please*verbose*
+  > -v '' => 3 Please*verbose*
+  > -v3 4 => 3 Please*verbose*
+  > -version 1 => 3 Please*verbose*
   > --debug 3 => 3 Please enter a valid debug-level (-d <debug-level>; min 0 - max 6)!\n
-  > -d x => 3 Please enter a valid debug*
+  > -d x => 3 Please*debug*
   > -d 9 --silent => 3
   > -v 3 --silent -v 9 => 3
   > -v 0 -d 9 => 3
@@ -60,7 +60,7 @@ options count wherever their text stands in a word.
   > x-pci-id => 3 Please enter at least one pair of vendor- and device-id ("1A0F:2B03,...hex-value")!\n
   > -pci-id /x => 3 Please enter at least one pair of vendor- and device-id ("1A0F:2B03,...hex-value")\n
   > x--conpath => 3 Please enter a path for file FC_HBA_Conditions.txt and/or HBA firmware!\n
-  > --conpath /tmp => 3 Please enter a path*
+  > --conpath /tmp => 3 Please*
   > x--check-for-valid-subsystem x--ctrl-wide-identical --qmr-modex --silent --conpath none => 15
   > x--qmr-mode => 3 \n\nInvalid*
   > --ctrl-vendor-wide-identicalx => 3 \n\nInvalid*

@@ -15,20 +15,7 @@ the last bar is a column, a long line is read in pieces.
   > A|B|0|2|3|4|x|x|f|b|x|x| |blank vendor|x|a long vendor|models|extra|
   > EOF
   $ printf 'A|B\0 no bar counts after a NUL|x\n%1030s||\nC|D\n||' >>$file
-  $ simulated -v 5 -vn x | sed -n '/^HBA/,/List of Fibre/p'
-  HBA conditions file: blade/FC_HBA_Conditions.txt
-               Emulex |           ModelA |   19a2 |   0714 |   1C3E |   11C1 |           c6 |           c7 |           fw |         bios |          c10 |          c11 |          DGC |                A,B |            x          NRB |                  C |            x
-               Emulex | Model with a very long name | 0x19A2 | 000000714 |
-                      |
-                      |
-                    A |                B |      0 |      2 |      3 |      4 |            x |            x |            f |            b |            x |            x |              |       blank vendor |            x a long vendor |             models |        extra              |
-                    A |                B |
-                      |
-                      |                  |
-                    C |                D |
-  
-  *********+*********+*********+*********+*********+*********+*********+*********+
-  
+  $ simulated -v 4 -vn x | sed -n '/combinations/,/^\*/p'
   List of allowed Fibre-Channel-Controller and Online-Storage-System combinations:
   
   Emulex     ModelA          
@@ -54,10 +41,8 @@ the last bar is a column, a long line is read in pieces.
   
   
   *********+*********+*********+*********+*********+*********+*********+*********+
-  
-  ******************************************************************************** 
-  
-  List of Fibre-Channel-Controller and attached Online-Storage-Systems:
+  $ simulated -v 5 -vn x | cksum
+  365774795 2543
 
 An identifier that is none ends the run; in a file with CR LF line ends the last
 column keeps its carriage return.

@@ -34,8 +34,9 @@ through its flash port.
 
 Any other function does not count as the adapter's flash. A failing download ends
 the run, an image that is missing is found out before anything is written. A check
-beside it must pass first.
+beside it must pass first. What the shell would not read as one word is quoted.
 
+  $ odd() { d="blade/it's \$(FX)" && mv blade/CNA* "$d" && mv "$d"/fx-4* "$d/;a b.ufi" && sed -i "s/: CNA-10102-FX/: ${d#*/}/; s/: 00:00:c9:b2:00:01/: 00;b2/" cli/reports/local*; }
   $ rows told lay_standin <<'EOF'
   > --silent $all => 0 *b2:00:01] [[]blade/CNA-10102-FX/fx-4*ufi]\n*fx-b*grp]\n*a1:00:01] [[]blade/fm10*ufi]\n
   > $fx => 0 *\tFirmware path: blade/CNA-10102-FX\n*'\*.ufi'\n\t\tLook for BIOS file: \*.grp\n*fx-b*'\*.grp'\n*\t\t\tBIOS file found: blade/CNA-10102-FX/fx-bios-4.6.141.grp\n\n\tNow start flashing the BIOS.\n\t\tFlash command is: \n\t\t./hbacmd download 00:00:c9:b2:00:01 blade/CNA*grp >> blade/CNA-10102-FX//FWtrace.out\n\n\t\tSuccess*
@@ -61,6 +62,7 @@ beside it must pass first.
   > --silent --flash -pci-id 19A2:FFFF => 12
   > sed -i 's/11C[12]/11C3/' blade/FC* :: $all => 0
   > sed -i '/^Serial/s/VM2.*/n\/a/' cli/reports/local* :: $fx => 12 *System:\n\tFound an adequate installed controller-device:\n\t\tVendor:*SerialNumber: n/a*\n\t\tPort index: 0; Ignore this port due to missing serial number  => SKIP.\nSystem:*
+  > odd :: $fx => 0 *./hbacmd download '00;b2' 'blade/it'\\\\''s $(FX)/;a b.ufi' >> 'blade/it'\\\\''s $(FX)//FWtrace.out'\n*\n [[]00;b2] [[]blade/it's $(FX)/;a b.ufi]\n [[]00;b2] [[]blade/it's $(FX)/fx-b*]\n
   > sed -i 's/CNA-10102-FX/.\/FX/' cli/reports/local* :: $fx => 20 *not available: blade/./FX\n\n\tFirmware path: blade/\n*found in \*.grp!\n
   > sed -i 's/CNA-10102-FX/../' cli/reports/local* :: $fx => 20 *not available: blade/..\n\n\tFirmware path: blade/\n*
   > EOF
@@ -79,19 +81,6 @@ The search takes a name prefix or an extension, never a hidden file.
   > 'AB' 'aAB .AB A AB1' => 0 blade/AB1 'AB'\n
   > '.AB' '.AB' => 0 none .AB!\n
   > EOF
-
-What the shell would not read as one word is quoted.
-
-  $ lay_standin && mv blade/CNA-10102-FX "blade/it's \$(FX)" && mv "blade/it's \$(FX)"/fx-4* "blade/it's \$(FX)/;a b.ufi"
-  $ sed -i "s/: CNA-10102-FX/: it's \$(FX)/; s/: 00:00:c9:b2:00:01/: 00;b2/" cli/reports/local_hba_list.out
-  $ told $fx | grep -e ./hbacmd -e '^ '; ls -A "blade/it's \$(FX)"
-  \t\t./hbacmd download '00;b2' 'blade/it'\\''s $(FX)/;a b.ufi' >> 'blade/it'\\''s $(FX)//FWtrace.out' (esc)
-  \t\t./hbacmd download '00;b2' 'blade/it'\\''s $(FX)/fx-bios-4.6.141.grp' >> 'blade/it'\\''s $(FX)//FWtrace.out' (esc)
-   [00;b2] [blade/it's $(FX)/;a b.ufi]
-   [00;b2] [blade/it's $(FX)/fx-bios-4.6.141.grp]
-  ;a b.ufi
-  FWtrace.out
-  fx-bios-4.6.141.grp
 
 A signal waits for the download that runs: it is finished, and its result told,
 before the tool ends, ahead of the next one. Not even a CLI with handlers of its own,

@@ -4,7 +4,7 @@ A passing check of one port, whole, at the level that shows everything.
 
   $ lay_blade && cd blade && sed -i '/0714.*11C1/!d' FC_HBA_Conditions.txt
   $ sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; /Node\|Fab\|Host\|Mode \|Bus/d; s/Function *: 2/Function: 0/' local_hba_list.out
-  $ sed '/Vers\|HW\|Oper/d' VM10250117_2_hba_attributes.out >VM10250117_0_hba_attributes.out
+  $ sed '/Vers\|HW\|Oper\|Type\|IPL\|Serial/d' VM10250117_2_hba_attributes.out >VM10250117_0_hba_attributes.out
   $ sed '/^FCP LUN.*1$/,$d; /SCSI [OC]\|Block/d' VM10250117_2_target_mapping.out >VM10250117_0_target_mapping.out
   $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1
   
@@ -47,15 +47,11 @@ A passing check of one port, whole, at the level that shows everything.
   
   \t\tHBA Attributes for 10:00:00:00:c9:a1:00:11 (esc)
   
-  \t\tVM10250117 (esc)
   \t\tCNA-10102-FM (esc)
   \t\t19A2 (esc)
   \t\t0714 (esc)
-  \t\tCNA-10102-FM (esc)
-  \t\tFCoE (esc)
   \t\t11C1 (esc)
   \t\t1C3E (esc)
-  \t\tnone (esc)
   
   \t\t\t/usr/sbin/ocmanager/hbacmd targetmapping 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_target_mapping.out (esc)
   
