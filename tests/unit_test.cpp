@@ -80,11 +80,11 @@ TEST(Attributes, EveryLabelFillsItsField) {
     set_levels(0, 0, 0);
     hba_info& port = *get_new_hba_info_entry();
     copy_text(port.serial_no, "VM10250117");
-    copy_text(port.pci_function, "0");
+    copy_text(port.pci_function, "2");
     ASSERT_EQ(read_attributes(port, ""), 0);
     const std::string fields(reinterpret_cast<const char*>(port.attributes),
                              offsetof(hba_attributes_entry, vendor_spec_id_val));
-    EXPECT_EQ(std::count(fields.begin(), fields.end(), '\0'), 969);
+    EXPECT_EQ(std::count(fields.begin(), fields.end(), '\0'), 910);
     release_hba_info_list();
 }
 

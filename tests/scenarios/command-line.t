@@ -76,10 +76,10 @@ Combinations.
   > -subvid 1 -vn A => 3 \n\nCombining*
   > -dev 1 -vn A => 3 \n\nCombining*
   > -mod M => 3 \n\nPlease, also specify vendor-names (option "-vn")\n, if using option "-mod"!\n
-  > -dev 1 => 3 \n\nPlease, also specify one or more vendor-ids (option "-vid")\n, if using option "-dev"!\n
-  > -vid 1 -subvid 1 => 3 \n\nPlease, also specify one or more device-ids (option "-dev")\n, if using option "-subvid"!\n
-  > -vid 1 -dev 1 -subdev 1 => 3 \n\nPlease, also specify one or more subvendor-ids (option "-subvid")\n, if using option "-subdev"!\n
-  > -vid 1 -dev 1 -subvid 1 => 3 \n\nPlease, also specify one or more subdevice-ids (option "-subdev")\n, if using option "-subvid"!\n
+  > -dev 1 => 3 \n\nPlease*one or more vendor-ids*"-vid"*"-dev"!\n
+  > -vid 1 -subvid 1 => 3 \n\nPlease*one or more device-ids*"-dev"*"-subvid"!\n
+  > -vid 1 -dev 1 -subdev 1 => 3 \n\nPlease*one or more subvendor-ids*"-subvid"*"-subdev"!\n
+  > -vid 1 -dev 1 -subvid 1 => 3 \n\nPlease*one or more subdevice-ids*"-subdev"*"-subvid"!\n
   > EOF
 
 The selection lists, as they are echoed before the missing conditions file ends
