@@ -10,7 +10,6 @@ decides whether a flash follows, the vendor-wide one comes first in the status.
   > -v 2 --ctrl-vendor-wide-identical $all => 2 *\nvendor specific reference-sub-system 1 >NRB< >DGC<.\n\t\tAt least one sub-system differs from vendor specific reference-sub-system (different vendors).\n\n*system 0 >NRB<*
   > --silent $both $all => 2
   > --silent x--ctrl-wide-identical $all => 0
-  > --silent $fx => 4
   > --flash $both $all => 2 *Now start flashing*
   > --flash --ctrl-vendor-wide-identical -v 3 $all => 2 *OverallSubSystemCheck returned: 0 \n
   > --flash --check-for-valid-subsystem -v 3 $fx => 4 *OverallSubSystemCheck returned: 0 \n
@@ -65,7 +64,6 @@ The storage of one port against a conditions record with the subsystems given.
   > 'NRB|A,B,|x' => 4 *12\n\t\t\tCheck*'A'*!\n\t\t\tCheck*'B'*!\n\t\tCheck subsystem: ''*!\n\n\n
   > 'NRB|X|x|NRB|Marlovan_S|x' => 0 *'X'*!\n\n\t\tAtt*'Marlovan_S'*OK\n*same group: Marlovan_S\n*
   > 'NRB| |x|NRB|Y,Z|x|NRB|Marlovan|x' => 0 *12\n\n\t\tAtt*'Y'*!\n\n\t\tAtt*12\n\n*
-  > 'NRB|Marlovan|x|NRB|B|x' => 0 *same group: Marlovan\n\n*
   > 'NRB|,|x|NRB|A|x' => 0 *12\n\t\t\tCheck subsystem: ''*--> OK\n\n\t\tAtt*12\n\n*
   > '|Marlovan|x|DGC| |x' => 4 \n\n
   > EOF

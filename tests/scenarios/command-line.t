@@ -26,7 +26,6 @@ Levels are read before everything else, whatever silences them before that.
   > -v -1 => 3 Please*verbose*
   > -v '' => 3 Please*verbose*
   > -v3 4 => 3 Please*verbose*
-  > -version 1 => 3 Please*verbose*
   > --debug 3 => 3 Please enter a valid debug-level (-d <debug-level>; min 0 - max 6)!\n
   > -d x => 3 Please*debug*
   > -d 9 --silent => 3
@@ -74,7 +73,6 @@ Combinations.
   > -vid 1 -vn A -mod M => 3 \n\nCombining options "-vid", "-subvid", "-dev", "-subdev" together with option "-vn" is not supported.\t!\n
   > -subdev 1 -mod M => 3 \n\nCombining*"-mod" is not supported.\t!\n
   > -subvid 1 -vn A => 3 \n\nCombining*
-  > -dev 1 -vn A => 3 \n\nCombining*
   > -mod M => 3 \n\nPlease, also specify vendor-names (option "-vn")\n, if using option "-mod"!\n
   > -dev 1 => 3 \n\nPlease*one or more vendor-ids*"-vid"*"-dev"!\n
   > -vid 1 -subvid 1 => 3 \n\nPlease*one or more device-ids*"-dev"*"-subvid"!\n

@@ -46,15 +46,11 @@ The shell recipe, with a program that ends as it is told.
   => 0 => 1 => 1 => 3 => 1 => 0 => 0 => 3 => 3 => 3 => 3 => 3
   $ for status in 10 12 20 21; do recipe 0 $status | tail -n 1; done | xargs
   => 2 => 0 => 2 => 2
-  $ recipe 0 20; recipe 4 0; recipe 3 0; recipe 1 0 overflow; recipe 12 0
+  $ recipe 0 20; recipe 3 0; recipe 1 0 overflow
   flash: status 20, do not restart, stop the fleet
   => 2
-  storage: status 4, leave this blade out
-  => 1
   set-up: status 3
   => 3
   strtoul: too long
   set-up: a number is too long
   => 3
-  go on: status 12
-  => 0

@@ -5,29 +5,29 @@
 The firmware and, where one is named, the BIOS are written once for each adapter,
 through its flash port.
 
-  $ lay_standin && real $fm
-  \tInstalled controller-device: (esc)
-  \t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: NIC PortNumber: 0 PortFunction: 0 (esc)
-  \t\tPort index: 0. (esc)
+  $ lay_standin && real $fm | tr '\t' '>'
+  >Installed controller-device:
+  >>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: NIC PortNumber: 0 PortFunction: 0
+  >>Port index: 0.
   
-  \t\tFirmware directory is not available: blade/CNA-10102-FM (esc)
+  >>Firmware directory is not available: blade/CNA-10102-FM
   
-  \tFirmware path: blade/ (esc)
-  \t\tLook for firmware file: fm10102- (esc)
-  \t\tFound BIOS- or firmware-image: blade/fm10102-4.6.142.10.ufi 'fm10102-' (esc)
-  \t\t\tFirmware file found: blade/fm10102-4.6.142.10.ufi (esc)
+  >Firmware path: blade/
+  >>Look for firmware file: fm10102-
+  >>Found BIOS- or firmware-image: blade/fm10102-4.6.142.10.ufi 'fm10102-'
+  >>>Firmware file found: blade/fm10102-4.6.142.10.ufi
   
-  \tNow start flashing the firmware. (esc)
-  \t\tFlash command is:  (esc)
-  \t\t./hbacmd download 00:00:c9:a1:00:01 blade/fm10102-4.6.142.10.ufi >> blade//FWtrace.out (esc)
+  >Now start flashing the firmware.
+  >>Flash command is: 
+  >>./hbacmd download 00:00:c9:a1:00:01 blade/fm10102-4.6.142.10.ufi >> blade//FWtrace.out
   
-  \t\tSuccess, flash command returned code 0. (esc)
+  >>Success, flash command returned code 0.
   
   
-  \t---------+---------+---------+---------+---------+---------+---------+---------+ (esc)
-  \tInstalled controller-device: (esc)
-  \t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: NIC PortNumber: 1 PortFunction: 1 (esc)
-  \t\tPort index: 0 Firmware already flashed => SKIP. (esc)
+  >---------+---------+---------+---------+---------+---------+---------+---------+
+  >Installed controller-device:
+  >>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: NIC PortNumber: 1 PortFunction: 1
+  >>Port index: 0 Firmware already flashed => SKIP.
   
   $ cat blade/FWtrace.out
   Downloaded blade/fm10102-4.6.142.10.ufi to 00:00:c9:a1:00:01
@@ -39,7 +39,7 @@ beside it must pass first. What the shell would not read as one word is quoted.
   $ odd() { d="blade/it's \$(FX)" && mv blade/CNA* "$d" && mv "$d"/fx-4* "$d/;a b.ufi" && sed -i "s/: CNA-10102-FX/: ${d#*/}/; s/: 00:00:c9:b2:00:01/: 00;b2/" cli/reports/local*; }
   $ rows told lay_standin <<'EOF'
   > --silent $all => 0 *b2:00:01] [[]blade/CNA-10102-FX/fx-4*ufi]\n*fx-b*grp]\n*a1:00:01] [[]blade/fm10*ufi]\n
-  > $fx => 0 *\tFirmware path: blade/CNA-10102-FX\n*'\*.ufi'\n\t\tLook for BIOS file: \*.grp\n*fx-b*'\*.grp'\n*\t\t\tBIOS file found: blade/CNA-10102-FX/fx-bios-4.6.141.grp\n\n\tNow start flashing the BIOS.\n\t\tFlash command is: \n\t\t./hbacmd download 00:00:c9:b2:00:01 blade/CNA*grp >> blade/CNA-10102-FX//FWtrace.out\n\n\t\tSuccess*
+  > $fx => 0 *\tFirmware path: blade/CNA-10102-FX\n*\t\t\tBIOS file found: blade/CNA*grp\n\n\tNow start flashing the BIOS.\n*grp >> blade/CNA-10102-FX//FWtrace.out\n\n\t\tSuccess*
   > -v 6 $fm => 0 *\t---*+\n\n\tFC_HBA_Conditions.txt:\n\tFound a matching controller-device in line 3:\n*
   > --silent --flash -pci-id 19A2:0714:1C3E:11C1 => 0  [[]*a1:00:01]*\n [[]*a1:00:01]*]\n
   > $all --simulate --silent => 13 sed:*

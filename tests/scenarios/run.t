@@ -1,99 +1,100 @@
   $ . "$TESTDIR/setup.sh"
 
-A passing check of one port, whole, at the level that shows everything.
+A passing check of one port, whole, at the level that shows everything; a tab is
+shown as ">", a divider by one of its groups.
 
   $ lay_blade && cd blade && sed -i '/0714.*11C1/!d' FC_HBA_Conditions.txt
   $ sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; /Node\|Fab\|Host\|Mode \|Bus/d; s/Function *: 2/Function: 0/' local_hba_list.out
   $ sed '/Vers\|HW\|Oper\|Type\|IPL\|Serial/d' VM10250117_2_hba_attributes.out >VM10250117_0_hba_attributes.out
   $ sed '/^FCP LUN.*1$/,$d; /SCSI [OC]\|Block/d' VM10250117_2_target_mapping.out >VM10250117_0_target_mapping.out
-  $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1
+  $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1 | sed -E 's/([-*]{9}\+){8}/\1/; s/\*{80}/**/' | tr '\t' '>'
   
   List of input pci-ids: "19A2:0714:1C3E:11C1"
   
-  \tVendor-Id 0x19a2 (esc)
-  \tDevice-Id 0x714 (esc)
-  \tSubVendor-Id 0x1c3e (esc)
-  \tSubDevice-Id 0x11c1 (esc)
+  >Vendor-Id 0x19a2
+  >Device-Id 0x714
+  >SubVendor-Id 0x1c3e
+  >SubDevice-Id 0x11c1
   env: Environment variable TMPDIR is not set.
   HBA conditions file: blade/FC_HBA_Conditions.txt
                Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 |         FCoE |         PCIe |     fm10102- |              |   2012-11-05 |            x |          DGC |   Marlovan_CX,CX4- |            x          NRB |       Marlovan_SX1 |            x
   
-  *********+*********+*********+*********+*********+*********+*********+*********+
+  *********+
   
   List of allowed Fibre-Channel-Controller and Online-Storage-System combinations:
   
   Emulex     CNA-10102-F     
-  \t\t1) DGC        Marlovan_CX,CX4- (esc)
-  \t\t2) NRB        Marlovan_SX1     (esc)
+  >>1) DGC        Marlovan_CX,CX4-
+  >>2) NRB        Marlovan_SX1    
   
   
-  *********+*********+*********+*********+*********+*********+*********+*********+
+  *********+
   /usr/sbin/ocmanager/hbacmd listhbas > blade//local_hba_list.out 
   
   Success, "hbacmd listhbas" command returned code 0.
   
-  1)\tPortWWN: 10:00:00:00:c9:a1:00:11 (esc)
-  \t8000e20b (esc)
-  \tEmulex Corporation (esc)
-  \tVM10250117 (esc)
-  \t0 (esc)
-  \t0 (esc)
-  \tFCoE (esc)
-  \tCNA-10102-FM (esc)
+  1)>PortWWN: 10:00:00:00:c9:a1:00:11
+  >8000e20b
+  >Emulex Corporation
+  >VM10250117
+  >0
+  >0
+  >FCoE
+  >CNA-10102-FM
   
-  \t\t/usr/sbin/ocmanager/hbacmd hbaattributes 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_hba_attributes.out (esc)
+  >>/usr/sbin/ocmanager/hbacmd hbaattributes 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_hba_attributes.out
   
-  \t\tSuccess, "hbacmd hbaattributes 10:00:00:00:c9:a1:00:11" command returned code 0. (esc)
+  >>Success, "hbacmd hbaattributes 10:00:00:00:c9:a1:00:11" command returned code 0.
   
-  \t\tHBA Attributes for 10:00:00:00:c9:a1:00:11 (esc)
+  >>HBA Attributes for 10:00:00:00:c9:a1:00:11
   
-  \t\tCNA-10102-FM (esc)
-  \t\t19A2 (esc)
-  \t\t0714 (esc)
-  \t\t11C1 (esc)
-  \t\t1C3E (esc)
+  >>CNA-10102-FM
+  >>19A2
+  >>0714
+  >>11C1
+  >>1C3E
   
-  \t\t\t/usr/sbin/ocmanager/hbacmd targetmapping 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_target_mapping.out (esc)
+  >>>/usr/sbin/ocmanager/hbacmd targetmapping 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_target_mapping.out
   
-  \t\t\tSuccess, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 0. (esc)
+  >>>Success, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 0.
   
-  \t\t\tTarget Mapping for 10:00:00:00:c9:a1:00:11 (esc)
-  \t\t\t0000000000000000 (esc)
-  \t\t\t/dev/sdb (esc)
-  \t\t\tDGC (esc)
-  \t\t\tMarlovan_CX1 (esc)
-  \t\t\t0430 (esc)
-  \t\t\tDisk (esc)
+  >>>Target Mapping for 10:00:00:00:c9:a1:00:11
+  >>>0000000000000000
+  >>>/dev/sdb
+  >>>DGC
+  >>>Marlovan_CX1
+  >>>0430
+  >>>Disk
   
   
   Original input list.
   
-  0\tCNA-10102-FM FCoE VM10250117 0 0 (esc)
+  0>CNA-10102-FM FCoE VM10250117 0 0
   
   
   List of CNA controller.
   
-  0\tCNA-10102-FM FCoE VM10250117 0 0 (esc)
+  0>CNA-10102-FM FCoE VM10250117 0 0
   
   Only FC ports detected.
   
   
   Total Result after PCI function sort.
   
-  0\tCNA-10102-FM FCoE VM10250117 0 0 (esc)
+  0>CNA-10102-FM FCoE VM10250117 0 0
   
-  ******************************************************************************** 
+  ** 
   
   List of Fibre-Channel-Controller and attached Online-Storage-Systems:
   
-    Emulex Corporation\tCNA-10102-FM\tFCoE\tVM10250117  port 0  function 0 (esc)
+    Emulex Corporation>CNA-10102-FM>FCoE>VM10250117  port 0  function 0
   
-  \tDGC (esc)
-  \tMarlovan_CX1 (esc)
-  \t0430 (esc)
+  >DGC
+  >Marlovan_CX1
+  >0430
   
   
-  ********************************************************************************
+  **
   
   InvalidCtrlSubsystemCombinationFound: 0 
   MatchingCtrlModelInstalled: 0 
@@ -101,38 +102,38 @@ A passing check of one port, whole, at the level that shows everything.
   CtrlSpecificSubsystemEquality: 1 
   
   
-  *********+*********+*********+*********+*********+*********+*********+*********+
-  *********+*********+*********+*********+*********+*********+*********+*********+
-  \tFC_HBA_Conditions.txt: (esc)
-  \tFound a matching controller-device in line 1: (esc)
-  \t\tvendor-id: 19A2, device-id: 0714 (esc)
-  \t\tsubvendor-id: 1C3E, subdevice-id: 11C1 (esc)
-  \t\tCorrespondig data: vendor: Emulex; model: CNA-10102-F (esc)
+  *********+
+  *********+
+  >FC_HBA_Conditions.txt:
+  >Found a matching controller-device in line 1:
+  >>vendor-id: 19A2, device-id: 0714
+  >>subvendor-id: 1C3E, subdevice-id: 11C1
+  >>Correspondig data: vendor: Emulex; model: CNA-10102-F
   
   
-  \t\t---------+---------+---------+---------+---------+---------+---------+---------+ (esc)
+  >>---------+
   
-  \t\tPerform subsystem check for: (esc)
-  \t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0 (esc)
+  >>Perform subsystem check for:
+  >>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0
   
-  \t\tAttached storage sub-system: (esc)
-  \t\t\t\tDGC (esc)
-  \t\t\t\tMarlovan_CX1 (esc)
-  \t\t\t\t0430 (esc)
-  \t\t\tCheck subsystem: 'Marlovan_CX' Attached subsystem: 'Marlovan_CX1'\t\t\t--> OK (esc)
-  \tAlready identified reference subsystems: Marlovan_CX  Subsystem group: Marlovan_CX,CX4- (esc)
-  \tReference subsystem Marlovan_CX found in Group: Marlovan_CX,CX4- (esc)
-  \t\t\tAll reference subsystems appear in the same group: Marlovan_CX,CX4- (esc)
+  >>Attached storage sub-system:
+  >>>>DGC
+  >>>>Marlovan_CX1
+  >>>>0430
+  >>>Check subsystem: 'Marlovan_CX' Attached subsystem: 'Marlovan_CX1'>>>--> OK
+  >Already identified reference subsystems: Marlovan_CX  Subsystem group: Marlovan_CX,CX4-
+  >Reference subsystem Marlovan_CX found in Group: Marlovan_CX,CX4-
+  >>>All reference subsystems appear in the same group: Marlovan_CX,CX4-
   
-  \t\tTake this sub-system as reference-sub-system for this controller-device. (esc)
-  \t\t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0 (esc)
+  >>Take this sub-system as reference-sub-system for this controller-device.
+  >>>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0
   
-  \t\tTake this sub-system as reference-sub-system for vendor Emulex Corporation. (esc)
-  \t\t\tVendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0 (esc)
-  ---------+---------+---------+---------+---------+---------+---------+---------+
+  >>Take this sub-system as reference-sub-system for vendor Emulex Corporation.
+  >>>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0
+  ---------+
   
-  *********+*********+*********+*********+*********+*********+*********+*********+
-  *********+*********+*********+*********+*********+*********+*********+*********+
+  *********+
+  *********+
   
   OverallSubSystemCheck returned: 1 
   InvalidCtrlSubsystemCombinationFound: 0 
