@@ -30,7 +30,6 @@ TEST(Text, NumbersFollowTheLibraryButEndWithTheText) {
     }
     EXPECT_EQ(numbers, "-1 -1 -1 -5 0 1 5 3 -5 -1 ");
     EXPECT_EQ(read("0x19A2", 16), 0x19a2);
-    EXPECT_EQ(read(" 19a2 \n", 16), 0x19a2);
     EXPECT_EQ(read("7FFFFFFF", 16), INT32_MAX);
     EXPECT_EQ(read("-80000000", 16), INT32_MIN);
     EXPECT_EQ(read("1FFFFFFFF0001", 16), -65535);

@@ -1,7 +1,6 @@
 // Broken input: a blade of one adapter with two ports, of which one file is replaced,
 // and a simulated run over it in this process, which must end with a status of the
-// table. libFuzzer finds the contents, or else the sweep at the end of this file makes
-// them: each file cut at every byte, its lines doubled, stretched and spoilt.
+// table. libFuzzer finds the contents, or the sweep at the end of this file makes them.
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"

@@ -47,19 +47,16 @@ beside it must pass first. What the shell would not read as one word is quoted.
   > echo 'exit 7' >cli/call19 :: --silent $all => 10 *ufi]\n*grp]\n
   > rm blade/CNA-10102-FX/*.grp :: $all => 20 *fx-4.6.142.10.ufi '\*.ufi'\n\t\tLook for BIOS file: \*.grp\n\tNo BIOS- or firmware-image was found in \*.grp!\n
   > rm blade/CNA-10102-FX/*.ufi :: $all => 20 *firmware file: \*.ufi\n\tNo BIOS- or firmware-image was found in \*.ufi!\n
-  > rm -r blade/CNA-10102-FX :: --silent $fx => 20
   > rm blade/fm* :: --silent $all => 20 *ufi]\n*grp]\n
   > echo 'rm hbacmd' >cli/call17 :: $fx => 21 *Error: Flash command ./hbacmd is not available: No such file or directory\n\n
   > echo 'rm blade/CNA-10102-FX/*.grp' >cli/call18 :: $all => 0 *\t\t\tBIOS file is not available: \*.grp\n\n\n*fx-4*]\n*fm*]\n
   > echo 'mv blade old' >cli/call17 :: $fx => 20 *directory is not available: blade/\n\n
   > rm -r blade/CNA* && : >blade/CNA-10102-FX :: $fx => 20 *Error: Firmware directory is not available: blade/CNA-10102-FX/\n\n
   > --silent --flash --check-for-valid-subsystem -pci-id 19A2:0714:1C3E:11C2 => 4
-  > --silent --flash --check-for-valid-subsystem -pci-id 19A2:0700 => 4
   > --silent --flash --ctrl-vendor-wide-identical -pci-id 19A2:0714 => 2
   > -v 3 --flash --ctrl-wide-identical -pci-id 19A2:0714 => 0 *\t\tOverallFlashBladeEngine returned: 0 \n\n*fx-4*\n*fx-b*\n*fx-4*\n*fx-b*\n*fm*\n*fm*]\n
   > --silent --flash --ctrl-wide-identical -pci-id 19A2:FFFF => 12
   > --silent --flash --qmr-mode => 0
-  > --silent --flash -pci-id 19A2:FFFF => 12
   > sed -i 's/11C[12]/11C3/' blade/FC* :: $all => 0
   > sed -i '/^Serial/s/VM2.*/n\/a/' cli/reports/local* :: $fx => 12 *System:\n\tFound an adequate installed controller-device:\n\t\tVendor:*SerialNumber: n/a*\n\t\tPort index: 0; Ignore this port due to missing serial number  => SKIP.\nSystem:*
   > odd :: $fx => 0 *./hbacmd download '00;b2' 'blade/it'\\\\''s $(FX)/;a b.ufi' >> 'blade/it'\\\\''s $(FX)//FWtrace.out'\n*\n [[]00;b2] [[]blade/it's $(FX)/;a b.ufi]\n [[]00;b2] [[]blade/it's $(FX)/fx-b*]\n

@@ -13,7 +13,6 @@ What a report says starts nothing and leads nowhere outside of the directory.
   > 'a b' => 12 \t\t./hbacmd hbaattributes 'a b' > 'blade//a b_2_hba_attributes.out'\n\t\tSuccess, "hbacmd hbaattributes a b" command returned code 0.\nhbaattributes [[]a b]\n./hbacmd ./out\n
   > '$(touch pwned)' => 12 \t\t./hbacmd hbaattributes '$(touch pwned)' > 'blade//$(t*\nhba*[[]$(*]\n./hbacmd ./out\n
   > "it's|touch pwned" => 12 *'it'\\\\''s|touch pwned' > 'blade//it'\\\\''s*[[]it's|touch pwned]\n./hbacmd ./out\n
-  > '"*"' => 12 *'\*' > 'blade//\*_2*[[]\*]\n./hbacmd ./out\n
   > '' => 12 *hbaattributes  > blade//_2*\nhbaattributes\n./hbacmd ./out\n
   > ../pwned => 12 *hbaattributes ../pwned > blade//../pwned_2*code -1.\n./hbacmd ./out\n
   > x ../y => 12 *hbaattributes x > blade//x_../_hba*code -1.\n./hbacmd ./out\n

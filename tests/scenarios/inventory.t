@@ -34,7 +34,7 @@ line. A number is read from the whole value.
   $ maps() { printf "$1" >blade/VM10250117_2_target_mapping.out; }
   $ rows simulated lay_blade <<'EOF'
   > list 'Serial No.: nobody\nPort WWN\nNode WWN\nModeling: a Model\nMode: a Mode\nPermanent MAC: "10:22:33:44:55:66:77"\nSerial No: n/a-too\nFlags:\nHost Name:\t x \nMfg:Emulex\nPort Number: %01012d\nPort Type: FCxx\nModel:M' :: -v 6 => 22 *returned code 0.\n\ta Model\n\ta Mode\n\n2)\tPermanentMAC: 10:22:33:44:55:66:77\n\tn/a-too\n\t\n\tx\n\tmulex\n\t00*00\n\tFCxx\n\t\n\n*hbaattributes  > blade//__hba_*
-  > list 'Port WWN: w\nPermanent MAC: "10:22:33:44:55:66:77"\nSerial No: n/a\nPort Type: FCxx\nPort WWN: w\nSerial No: n/a\nPort Type: FCoE2' :: -v 6 => 22 *"hbacmd hbaattributes " command*
+  > list 'Port WWN: w\nPermanent MAC: m\nSerial No: n/a\nPort Type: FCxx' :: -v 6 => 22 *"hbacmd hbaattributes " command*
   > attributes 'Vendor Spec ID: FFFF\nHBA Attributes for x\nVendor Spec ID: 19A2\nHBA Attributes for x\nVendor Spec ID: 00019A2\nDevice ID: 714\nDevice ID\nModel: M\nModel Desc: D\nSub Device ID: "11C1"\nSub Vendor ID: 1c3e' :: -v 6 $fm => 0 *c9:a1:00:11" command returned code 0.\n\n\t\tHBA Attributes for 10:00:00:00:c9:a1:00:11\n\n\t\t19A2\n\n\t\tHBA Attributes for 10:00:00:00:c9:a1:00:11\n\n\t\t0001\n\t\t714\n\t\t714\n\t\tM\n\t\t11C1\n\t\t1c3e\n\n\t\t/usr*
   > attributes 'HBA Attributes for\nDevice ID: 10000000000000000' :: -v 1 => 1 strtoul*
   > maps 'Vendor ID: 1\n2\n3\nVendor ID: 4\nType Disk\nSCSI: starts the record\nType Disk\nSCSI OS Lun: 123456\nVendor ID: NRB\nProduct ID: Marlovan_SX1\nVendor ID: DGC\nVendor ID' :: -v 6 $fm => 4 *c9:a1:00:11" command returned code 0.\n\t\t\t\n\t\t\t1234\n\t\t\tNRB\n\t\t\tMarlovan_SX1\n\t\t\tDGC\n\t\t\tDGC\n\n\t\t\t/usr*

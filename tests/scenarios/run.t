@@ -7,7 +7,7 @@ shown as ">", a divider by one of its groups.
   $ sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; /Node\|Fab\|Host\|Mode \|Bus/d; s/Function *: 2/Function: 0/' local_hba_list.out
   $ sed '/Vers\|HW\|Oper\|Type\|IPL\|Serial/d' VM10250117_2_hba_attributes.out >VM10250117_0_hba_attributes.out
   $ sed '/^FCP LUN.*1$/,$d; /SCSI [OC]\|Block/d' VM10250117_2_target_mapping.out >VM10250117_0_target_mapping.out
-  $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1 | sed -E 's/([-*]{9}\+){8}/\1/; s/\*{80}/**/' | tr '\t' '>'
+  $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1 | sed -E 's/([-*]{9}\+){8}/\1/; s/\*{80}/**/' | tr '\t' '>' | cut -c 1-132
   
   List of input pci-ids: "19A2:0714:1C3E:11C1"
   
@@ -17,7 +17,7 @@ shown as ">", a divider by one of its groups.
   >SubDevice-Id 0x11c1
   env: Environment variable TMPDIR is not set.
   HBA conditions file: blade/FC_HBA_Conditions.txt
-               Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 |         FCoE |         PCIe |     fm10102- |              |   2012-11-05 |            x |          DGC |   Marlovan_CX,CX4- |            x          NRB |       Marlovan_SX1 |            x
+               Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 |         FCoE |         PCIe |     fm10102- |           
   
   *********+
   
@@ -149,8 +149,6 @@ checksum. A message or a gate that has moved is seen here.
   0 64 82 95 219 224 824 795, 905387853 72769
   $ profile --ctrl-wide-identical --ctrl-vendor-wide-identical $selection:1C3E:11C1
   0 32 40 53 117 122 680 651, 4286484425 45473
-  $ profile --ctrl-vendor-wide-identical $selection
-  0 64 82 95 219 224 824 795, 3277781542 72769
   $ profile --flash -pci-id 19A2:0700
   0 54 54 60 112 117 693 664, 1072118701 44931
   $ profile -pci-id 19A2:0712:1C3E:11D0,10DF:F100

@@ -23,8 +23,8 @@ lay_standin() {
 
 # Calls the function $1 once for each row on standard input; a row that holds prints
 # nothing. A row is "[PREPARATION ::] WORDS => STATUS [PATTERN]": the pattern, a
-# shell pattern with \n and \t, must fit all that is printed. $2 lays what the rows
-# need: once, but anew for a preparation, and for each row that calls the stand-in.
+# shell pattern with \n and \t, must fit all that is printed. $2 lays what is needed,
+# anew after a preparation and for each call of the stand-in.
 rows() {
     laid=
     while IFS= read -r row; do
