@@ -7,9 +7,9 @@ What only informs; the name is the one that was typed.
   1595466940 762
   $ rows tool <<'EOF'
   > --info bogus => 0 \ncnatool version *.*.*.*\n
-  > -h => 0 \ncnatool version *.*.*.*\n\nUSAGE:\t cnatool [[] options ]\n*identical\n*\n\n\n
-  > '-?' => 0 \ncnatool version*
-  > --hiddenhelp => 0 \ncnatool version*
+  > '-?' => 0 \ncnatool version*\n\nUSAGE:\t cnatool *
+  > -h => 0 \ncn*
+  > --hiddenhelp => 0 \ncn*
   > /h -d 0 => 0
   > -v 0 --version => 0
   > --silent --version => 0

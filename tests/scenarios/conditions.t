@@ -51,8 +51,6 @@ column keeps its carriage return.
   $ rows simulated lay_blade <<'EOF'
   > put 'A|B|19A2|\n' :: -v 1 => 55
   > put 'A|B|19A2|0714\r\n' :: -v 1 => 55
-  > put 'A|B|80000000\n' :: -v 1 => 55
-  > put 'A|B|1|2|3|12345G\n' :: -d 1 => 55
   > put 'A|B|10000000000000000\n' :: -v 1 => 1 strtoul: Numerical result out of range\n
   > put '#\n--+--' :: -v 4 -vn x => 12 *combinations:\n\n\n\*\*\**
   > mkdir $file 2>/dev/null || rm $file && mkdir $file :: --silent => 15

@@ -56,7 +56,6 @@ beside it must pass first. What the shell would not read as one word is quoted.
   > --silent --flash --ctrl-vendor-wide-identical -pci-id 19A2:0714 => 2
   > -v 3 --flash --ctrl-wide-identical -pci-id 19A2:0714 => 0 *\t\tOverallFlashBladeEngine returned: 0 \n\n*fx-4*\n*fx-b*\n*fx-4*\n*fx-b*\n*fm*\n*fm*]\n
   > --silent --flash --ctrl-wide-identical -pci-id 19A2:FFFF => 12
-  > --silent --flash --qmr-mode => 0
   > sed -i 's/11C[12]/11C3/' blade/FC* :: $all => 0
   > sed -i '/^Serial/s/VM2.*/n\/a/' cli/reports/local* :: $fx => 12 *System:\n\tFound an adequate installed controller-device:\n\t\tVendor:*SerialNumber: n/a*\n\t\tPort index: 0; Ignore this port due to missing serial number  => SKIP.\nSystem:*
   > odd :: $fx => 0 *./hbacmd download '00;b2' 'blade/it'\\\\''s $(FX)/;a b.ufi' >> 'blade/it'\\\\''s $(FX)//FWtrace.out'\n*\n [[]00;b2] [[]blade/it's $(FX)/;a b.ufi]\n [[]00;b2] [[]blade/it's $(FX)/fx-b*]\n

@@ -7,7 +7,7 @@ shown as ">", a divider by one of its groups.
   $ sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; /Node\|Fab\|Host\|Mode \|Bus/d; s/Function *: 2/Function: 0/' local_hba_list.out
   $ sed '/Vers\|HW\|Oper\|Type\|IPL\|Serial/d' VM10250117_2_hba_attributes.out >VM10250117_0_hba_attributes.out
   $ sed '/^FCP LUN.*1$/,$d; /SCSI [OC]\|Block/d' VM10250117_2_target_mapping.out >VM10250117_0_target_mapping.out
-  $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1 | sed -E 's/([-*]{9}\+){8}/\1/; s/\*{80}/**/' | tr '\t' '>' | cut -c 1-132
+  $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1 | sed -E 's/([-*]{9}\+){8}/\1/; s/\*{80}/**/' | tr '\t' '>' | cut -c 1-96
   
   List of input pci-ids: "19A2:0714:1C3E:11C1"
   
@@ -17,7 +17,7 @@ shown as ">", a divider by one of its groups.
   >SubDevice-Id 0x11c1
   env: Environment variable TMPDIR is not set.
   HBA conditions file: blade/FC_HBA_Conditions.txt
-               Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 |         FCoE |         PCIe |     fm10102- |           
+               Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 |         FCoE |     
   
   *********+
   
@@ -42,7 +42,7 @@ shown as ">", a divider by one of its groups.
   >FCoE
   >CNA-10102-FM
   
-  >>/usr/sbin/ocmanager/hbacmd hbaattributes 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_hba_attributes.out
+  >>/usr/sbin/ocmanager/hbacmd hbaattributes 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_hba_att
   
   >>Success, "hbacmd hbaattributes 10:00:00:00:c9:a1:00:11" command returned code 0.
   
@@ -54,7 +54,7 @@ shown as ">", a divider by one of its groups.
   >>11C1
   >>1C3E
   
-  >>>/usr/sbin/ocmanager/hbacmd targetmapping 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_target_mapping.out
+  >>>/usr/sbin/ocmanager/hbacmd targetmapping 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_target
   
   >>>Success, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 0.
   
@@ -114,7 +114,7 @@ shown as ">", a divider by one of its groups.
   >>---------+
   
   >>Perform subsystem check for:
-  >>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0
+  >>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNu
   
   >>Attached storage sub-system:
   >>>>DGC
@@ -126,10 +126,10 @@ shown as ">", a divider by one of its groups.
   >>>All reference subsystems appear in the same group: Marlovan_CX,CX4-
   
   >>Take this sub-system as reference-sub-system for this controller-device.
-  >>>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0
+  >>>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortN
   
   >>Take this sub-system as reference-sub-system for vendor Emulex Corporation.
-  >>>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 PCI function: 0
+  >>>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortN
   ---------+
   
   *********+
