@@ -27,7 +27,7 @@ decides whether a flash follows, the vendor-wide one comes first in the status.
   > --silent --ctrl-vendor-wide-identical --qmr-mode $all => 2
   > EOF
 
-What ends the walk over an adapter's ports, and what is passed over.
+What ends the walk over an adapter's ports.
 
   $ rows simulated lay_blade <<'EOF'
   > sed -i 's/: DGC/: dgc/' blade/VM10250117_2* :: -v 2 --ctrl-wide-identical $fm => 4 *function: 2\n\t\tTake this*function: 2\n\n\n\t\t---*function: 3\n\n\t\tAtt*for vendor Emulex Corporation.\n*function: 3\n
@@ -45,7 +45,7 @@ What ends the walk over an adapter's ports, and what is passed over.
   > sed -i '/^Serial/s/VM2.*/n\/ab/' blade/local* :: -v 6 $all => 0 *\tVendor: Emulex Corporation Model: CNA-10102-FX; SN: n/ab port: 0 function: 0\n\tNo serial number => SKIP\n---*+\n\tVendor*
   > EOF
 
-The storage of one port against a conditions record with the subsystems given.
+The storage of one port against a record with the subsystems given.
 
   $ lay_blade && : >blade/VM20713302_3_target_mapping.out
   $ judged() {

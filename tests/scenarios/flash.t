@@ -78,7 +78,7 @@ The search takes a name prefix or an extension, never a hidden file.
   > '.AB' '.AB' => 0 none .AB!\n
   > EOF
 
-A signal waits for the download that runs: it is finished, and its result told,
+A signal waits for the download that runs: it ends, and its result is told,
 before the tool ends, ahead of the next one. Not even a CLI with handlers of its own,
 or one whose reader has gone, is broken off. The inventory can be.
 
