@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <unordered_set>
 
 namespace {
 
@@ -113,25 +114,16 @@ bool NewCompareWithReferenceSystem(const hba_info& a, const hba_info& b) {
            std::strcmp(a.target_mapping->vendor_id, b.target_mapping->vendor_id) != 0;
 }
 
-void DoSubSystemCheck(const hba_info& port, fc_config_file_entry* const& entry,
+bool DoSubSystemCheck(const hba_info& port, fc_config_file_entry* const& entry,
                       global_ctrl_flags& flags) {
     Walk walk{entry, flags};
-    hba_info* const first = port.flash_port->next_port;
-    // The walk ends where it comes back to a port that it has passed, as it does on
-    // the self-link of an adapter with one FCoE port.
-    bool complete = true;
-    for (hba_info* member = first; complete && member != nullptr && member->walked_for != &entry;
-         member = member->next_port) {
-        member->walked_for = &entry;
-        complete = examine(walk, *member);
-    }
-    // What lies behind the ports of a complete walk is done: below level 4, another
-    // one for the same record shows nothing there, and ends as soon as it meets them.
-    if (!complete || levels_above(3)) {
-        for (hba_info* member = first; member != nullptr && member->walked_for == &entry;
-             member = member->next_port) {
-            member->walked_for = nullptr;
-        }
+    // The chain of an adapter with one FCoE port leads from that port back to it.
+    std::unordered_set<const hba_info*> walked;
+    bool whole = true;
+    for (hba_info* member = port.flash_port->next_port;
+         whole && member != nullptr && walked.insert(member).second; member = member->next_port) {
+        whole = examine(walk, *member);
     }
     message(6, "%s\n", divider);
+    return whole;
 }

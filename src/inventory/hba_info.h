@@ -97,9 +97,8 @@ struct hba_info {
     hba_attributes_entry* attributes;     // null: no attributes report
     target_mapping_entry* target_mapping; // null: the port sees no storage
 
-    hba_info* flash_port;   // the port through which the adapter is flashed
-    hba_info* next_port;    // FCoE: the next port of the chain from the flash port
-    const void* walked_for; // the record for which the check has walked from here on
+    hba_info* flash_port; // the port through which the adapter is flashed
+    hba_info* next_port;  // FCoE: the next port of the chain from the flash port
 
     std::uint8_t flash_done; // the flash engine has handled this port
     std::uint8_t check_done; // the consistency check has handled this port
