@@ -72,7 +72,6 @@ Combinations.
   $ rows tool <<'EOF'
   > -vid 1 -vn A -mod M => 3 \n\nCombining options "-vid", "-subvid", "-dev", "-subdev" together with option "-vn" is not supported.\t!\n
   > -subdev 1 -mod M => 3 \n\nCombining*"-mod" is not supported.\t!\n
-  > -subvid 1 -vn A => 3 \n\nCombining*
   > -mod M => 3 \n\nPlease, also specify vendor-names (option "-vn")\n, if using option "-mod"!\n
   > -dev 1 => 3 \n\nPlease*one or more vendor-ids*"-vid"*"-dev"!\n
   > -vid 1 -subvid 1 => 3 \n\nPlease*one or more device-ids*"-dev"*"-subvid"!\n

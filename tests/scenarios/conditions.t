@@ -15,32 +15,6 @@ the last bar is a column, a long line is read in pieces.
   > A|B|0|2|3|4|x|x|f|b|x|x| |blank vendor|x|a long vendor|models|extra|
   > EOF
   $ printf 'A|B\0 no bar counts after a NUL|x\n%1030s||\nC|D\n||' >>$file
-  $ simulated -v 4 -vn x | sed -n '/combinations/,/^\*/p'
-  List of allowed Fibre-Channel-Controller and Online-Storage-System combinations:
-  
-  Emulex     ModelA          
-  \t\t1) DGC        A,B              (esc)
-  \t\t2) NRB        C                (esc)
-  
-  Emulex     Model with a very l
-  
-                             
-  
-                             
-  
-  A          B               
-  \t\t1) a long ve  models           (esc)
-  
-  A          B               
-  
-                             
-  
-                             
-  
-  C          D               
-  
-  
-  *********+*********+*********+*********+*********+*********+*********+*********+
   $ simulated -v 5 -vn x | cksum
   365774795 2543
 
