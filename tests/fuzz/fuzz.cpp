@@ -52,7 +52,7 @@ const BladeFile blade[] = {
     {"x.b", ""},
 };
 
-// The current directory from the first run to the last.
+// The current directory of all runs.
 struct Directory {
     std::string name = std::filesystem::temp_directory_path() / "cnatool_XXXXXX";
 
