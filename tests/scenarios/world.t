@@ -90,16 +90,11 @@ Nothing in the environment changes what the shell does.
   0
   => 0
 
-A terminal is told what the tool waits for, a file never.
+A terminal is told what the tool waits for, which is wiped; a file never.
 
-  $ lay_standin && cat >terminal <<'EOF'
-  > "$CNATOOL_STANDIN" --conpath blade $*
-  > EOF
-  $ watched() { script -qec "sh terminal $*" /dev/null | tr '\r' '\n' | grep -o -e '^port [15] of 11.*' -e '^download.*'; }
-  $ watched $flash
-  port 1 of 11: attributes
-  port 5 of 11: attributes
-  port 1 of 11: target mapping
+  $ watched() { script -qec "'$CNATOOL_STANDIN' --conpath blade $*" /dev/null; }
+  $ lay_standin && watched $flash | tr '\r' '~' >out; head -c 28 out; tr '~' '\n' <out | grep -e '^port 5' -e '^down'
+  ~adapter list~~            ~port 5 of 11: attributes
   port 5 of 11: target mapping
   download of the firmware
   $ watched --silent; watched -v 0; watched -d 1; real $flash 2>&1 | grep -c 'of 11'
