@@ -84,7 +84,7 @@ or one whose reader has gone, is broken off. The inventory can be.
 
   $ interrupted() {
   >     lay_standin && echo "$2; echo finished >>cli/calls.log" >"cli/$1"
-  >     setsid sh -c 'trap - INT TERM HUP QUIT; echo $$ >cli/pid; exec "$0" --conpath blade '"$fm" "$CNATOOL_STANDIN" >out 2>&1
+  >     setsid sh -c 'echo $$ >cli/pid; exec env --default-signal "$0" --conpath blade '"$fm" "$CNATOOL_STANDIN" >out 2>&1
   >     echo "=> $?" $(grep -o "Success, flash.*" out) $(tail -n 1 cli/calls.log)
   > }
   $ for signal in INT TERM HUP QUIT; do interrupted call18 "kill -s $signal -- -\$(cat cli/pid) \$PPID \$\$; sleep 0.1"; done 2>/dev/null
