@@ -7,9 +7,9 @@ example=$TESTDIR/../../examples/blade
 unset TMPDIR
 
 tool() { "$CNATOOL" "$@"; }
-# With prepared reports, and with the stand-in; a job in the background ignores INT.
+# With prepared reports; with the stand-in, whatever the caller ignores.
 simulated() { tool --simulate --conpath blade "$@"; }
-real() { env --default-signal=INT,QUIT "$CNATOOL_STANDIN" --conpath blade "$@"; }
+real() { env --default-signal=HUP,INT,QUIT "$CNATOOL_STANDIN" --conpath blade "$@"; }
 
 # Lays the example as the working directory "blade".
 lay_blade() { rm -rf blade && cp -r "$example" blade; }
