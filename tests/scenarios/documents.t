@@ -45,7 +45,7 @@ The shell recipe, with a program that ends as it is told.
   $ for status in 0 1 2 3 4 12 13 15 22 54 55 137; do recipe $status 0 | tail -n 1; done | xargs
   => 0 => 1 => 1 => 3 => 1 => 0 => 0 => 3 => 3 => 3 => 3 => 3
   $ for status in 10 12 20 21; do recipe 0 $status | tail -n 1; done | xargs
-  => 2 => 0 => 2 => 2
+  => 2 => 3 => 2 => 2
   $ recipe 0 20; recipe 3 0; recipe 1 0 overflow
   flash: status 20, do not restart, stop the fleet
   => 2
