@@ -69,7 +69,7 @@ TEST(Conditions, RefusalNamesLineColumnAndStoredText) {
         EXPECT_EXIT(Read_FC_Config_File(path.c_str()), testing::ExitedWithCode(55),
                     std::string("^\nError line 3: ") + refusal + " is not a valid hex value!\n$");
     }
-    std::remove(path.c_str());
+    static_cast<void>(std::remove(path.c_str()));
 }
 
 // Nothing shows most of the fields; each character of them counts.
@@ -98,7 +98,10 @@ TEST(Check, GroupsAndReferences) {
               "\tReference subsystem 'A' not in Group: >AA,B< => Skip this group.\n||0");
     target_mapping_entry storage[3]{};
     copy_text(storage[2].vendor_id, "DGC");
-    hba_info none{}, a{}, b{}, c{};
+    hba_info none{};
+    hba_info a{};
+    hba_info b{};
+    hba_info c{};
     a.target_mapping = &storage[0];
     b.target_mapping = &storage[1];
     c.target_mapping = &storage[2];

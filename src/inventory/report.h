@@ -35,8 +35,8 @@ ReportFile report_file(const hba_info& port, const char* name);
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
                          ReportFile& file, const char* tail, std::string awaited);
 
-// Opens a report; when it can't be opened, returns null. One that the CLI should
-// have written is not looked for behind a link: nothing is written there.
+// Opens a report; when it can't be opened, returns null. Unless simulated, a link is
+// not followed: no command writes through one, so it leads to no report of this run.
 TextFile open_report(const ReportFile& file);
 
 // Says that a report can't be opened, and returns report_not_opened.

@@ -16,7 +16,7 @@ bool hbacmd_available();
 // Waits for its turn where another run uses the CLI, and keeps the others waiting
 // until the process ends: two of them would rewrite each other's reports, or flash
 // the same adapter. Signals end the wait. A CLI that can't be opened for reading is
-// used without taking turns, and so is none at all in simulate mode.
+// used without taking turns. In simulate mode nobody waits.
 void take_turn();
 
 // The command line that runs the CLI with `words`, each quoted where it needs to

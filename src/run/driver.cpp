@@ -113,8 +113,8 @@ void flash(const option_input* selection, global_ctrl_flags& flags) {
     }
 }
 
-// Flashes only when the check has passed. A check that failed without a code of
-// its own is no reason to end here: the flash is left out.
+// Flashes only when the check has passed. After one that failed without a code of its
+// own the run goes on to its usual end, without the flash.
 void check_then_flash(const option_input* selection, global_ctrl_flags& flags) {
     if (OverallSubSystemCheck(selection, flags) != 0) {
         flash(selection, flags);

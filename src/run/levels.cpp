@@ -15,7 +15,7 @@ bool contains(std::string_view word, std::string_view text) {
 }
 
 // The level that follows a level word as its `value` (null: no word follows).
-// `name` and `letter` tell the refusal, which ends the run, of which kind it is.
+// `name` and `letter` are what the refusal, which ends the run, calls it.
 std::int32_t read_level(std::string_view word, char* value, const char* name, char letter) {
     if (word.size() == 2 && value != nullptr && *value != '\0' && *value != '-') {
         const std::int32_t level = string2int(value, 10);

@@ -14,7 +14,7 @@ What only informs; the name is the one that was typed.
   > -v 0 --version => 0
   > --silent --version => 0
   > -d 6 --version => 0
-  > --show-return-code => 0 \nList of*
+  > --show-return-code => 0 \nList of possible return codes\n*
   > --show-return-codesx => 3 \n\nInvalid*
   > EOF
 

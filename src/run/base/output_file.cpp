@@ -11,7 +11,8 @@ bool has_one_name(const struct stat& status) {
     return S_ISREG(status.st_mode) && status.st_nlink == 1;
 }
 
-// Whether it is no link or the like that keeps the file from being opened.
+// Whether opening failed for a reason that the shell may tell of: it was not because
+// of a link, a FIFO or a device.
 bool may_be_left_to_shell(const std::string& path) {
     struct stat status {};
     return lstat(path.c_str(), &status) != 0 || S_ISDIR(status.st_mode) || has_one_name(status);
@@ -28,10 +29,11 @@ bool prepare_output(const std::string& path, Output output) {
     }
     const bool writable = has_one_name(status);
     if (writable && output == Output::rewritten) {
-        // Where that fails, the shell's own attempt tells.
+        // Another owner's mode can't be changed. A file that can't be emptied is left to
+        // the shell, which empties it once more.
         const mode_t mode = status.st_mode & 07777U & ~static_cast<mode_t>(S_IWGRP | S_IWOTH);
-        [[maybe_unused]] const bool emptied =
-            ftruncate(descriptor, 0) == 0 && fchmod(descriptor, mode) == 0;
+        static_cast<void>(fchmod(descriptor, mode));
+        [[maybe_unused]] const int result = ftruncate(descriptor, 0);
     }
     close(descriptor);
     return writable;

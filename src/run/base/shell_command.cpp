@@ -38,8 +38,8 @@ pid_t start_deferred(const char* text) {
 }
 
 // Starts the shell for any other command; spawning costs less than a fork. The
-// child reacts in the default way to what the tool and downloads ignore. Returns
-// -1 when it can't be started.
+// child reacts in the default way to what the tool (prepare_process) and downloads
+// ignore. Returns -1 when it can't be started.
 pid_t start_interruptible(const std::string& text) {
     char shell[] = "sh";
     char option[] = "-c";

@@ -35,5 +35,5 @@ enum class Interruption { allowed, deferred };
 // too long, is not runnable, must not write to its file or can't be started.
 // In simulate mode nothing is started and the status is 0: no other function
 // starts a process. A command whose interruption is deferred is out of reach of
-// signals; the tool itself is only while a SignalHold lives.
+// signals; a SignalHold keeps them from the tool itself.
 std::int32_t run_command(const ShellCommand& command, Interruption interruption);

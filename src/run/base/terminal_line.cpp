@@ -12,7 +12,8 @@ namespace {
 constexpr std::size_t length_max = 79;
 
 bool watched() {
-    return PrintDebugOnScreen != 0 && VerboseLevel != 0 && isatty(STDERR_FILENO) == 1;
+    return PrintDebugOnScreen != 0 && VerboseLevel != 0 && isatty(STDERR_FILENO) == 1 &&
+           tcgetpgrp(STDERR_FILENO) == getpgrp();
 }
 
 void write_line(const std::string& text) {

@@ -5,8 +5,8 @@
 #include <string_view>
 
 // Shows a line on standard error while it lives, and wipes it at its end. Nothing
-// is shown when standard error is no terminal (a file and a pipe never see it) or
-// when the messages are hidden, as in a debug run.
+// is shown when standard error is no terminal (a file and a pipe never see it), when
+// another job has the terminal, or when the messages are hidden, as in a debug run.
 class TerminalLine {
 public:
     explicit TerminalLine(std::string_view text);

@@ -2,7 +2,9 @@
 
 #include "run/base/regular_file.h"
 
+#include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 #include <utility>
 
@@ -34,7 +36,9 @@ TextFile create_private_file(const char* path) {
     struct stat status {};
     const int descriptor = open_regular_file(path, O_WRONLY | O_CREAT | O_NOFOLLOW, 0600, status);
     TextFile file = stream_of(descriptor, "w");
+    // A run that is still going on keeps its file.
     const bool own = file != nullptr && status.st_nlink == 1 && status.st_uid == geteuid() &&
+                     (flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) &&
                      fchmod(descriptor, 0600) == 0 && ftruncate(descriptor, 0) == 0;
     return own ? std::move(file) : nullptr;
 }

@@ -32,5 +32,6 @@ inline bool read_failed(const TextFile& file) {
 
 // Makes a file that messages are written to, emptied and readable by its owner
 // alone. Null when it can't be opened or could be somebody else's: nothing is
-// written through a link, or to what has another owner or a second name.
+// written through a link, to what has another owner or a second name, or to what
+// another run writes at the same time.
 TextFile create_private_file(const char* path);
