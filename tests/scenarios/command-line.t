@@ -121,6 +121,7 @@ by its bare name.
   > . ./name => 15 Error: Could not open file ./FC*
   > $d name => 15 Error: Could not open file /*/0*0/FC*
   > $d/$d/$d/$d name => 3 \n\nPath*
+  > . sh -c 'mkdir gone && cd gone && rmdir ../gone && name' => 3 \n\nCannot determine the current directory: No such*
   > EOF
   $ for TMPDIR in "" /var/tmp; do export TMPDIR; tool -v 3 --conpath none | head -n 1; done
   env: Environment variable TMPDIR is empty.

@@ -13,6 +13,7 @@ other command that fails is only told of.
   > echo 'exit 3' >cli/call1 :: -v 3 => 13 env*.txt\n\nNo Blade*
   > echo 'exit 3' >cli/call2 :: -v 6 -pci-id 19A2:0714 => 0 *\n\t\tFail, "hbacmd hbaattributes 10:00:00:00:c9:b2:00:11" command returned code 768.\n*
   > echo 'exit 1' >cli/call15 :: -v 6 -pci-id 19A2:0714 => 0 *\n\n\n\t\t\tFail, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 256.\n*
+  > for n in 2 15; do echo 'exit 1' >cli/call$n; done :: -v 1 -pci-id 19A2:0714 => 0 \n\t\t----*
   > rm hbacmd :: -v 1 => 13 \t\tCommand ./hbacmd is not available!\n\n\nNo Blade*
   > rm hbacmd :: --simulate --silent => 13
   > EOF
