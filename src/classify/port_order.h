@@ -1,4 +1,4 @@
-// The order of the ports. The adapter test is one-sided (serial_leads), so
+// The order of the ports. The adapter test is one-sided (SerialNumbers), so
 // these are no sorts: which port is asked about which decides the result, and
 // every step is stated in positions of the array.
 #pragma once
@@ -13,18 +13,18 @@
 //
 // A list may be long and in any order, so nothing is looked for that is known to be
 // absent. The exchanges stay the same:
-// - Regrouping from a position leaves each port behind it with one that matches it
-//   as the next, or with none behind. It moves nothing when done again from there or
+// - Regrouping from a position leaves each later port with one that matches it as the
+//   next, or with none after it. It moves nothing when done again from there or
 //   further on, as long as the serial numbers have kept their places.
 // - The later ports that match one are counted by their serial numbers, and taken
 //   from that number's ports in the order of their places.
 // - No port is lower than the lowest of its run, so that ends the exchange with the
-//   ports behind it.
+//   ports after it.
 class PortOrder {
 public:
     explicit PortOrder(hba_info** ports);
 
-    // Gathers, from position `start` on, the ports of each adapter behind the
+    // Gathers, from position `start` on, the ports of each adapter after the
     // first one met.
     void regroup(std::size_t start);
 

@@ -7,12 +7,13 @@
 #include <span>
 #include <vector>
 
-// Numbers the different serial numbers of the ports in ascending order, so that
-// comparing integers tells which one leads which.
+// The adapter test is one-sided: a port belongs to another's adapter when its serial
+// number leads the other's, that is, equals it or a leading part of it. An empty one
+// leads them all. Numbered in ascending order, the serial numbers that begin with one
+// stand right after it, so that comparing integers tells which one leads which.
 class SerialNumbers {
 public:
-    // Which of them a port has, and the last one that it leads: those that begin
-    // with it stand right behind it.
+    // Which of them a port has, and the last one that it leads.
     struct Number {
         std::uint32_t own;
         std::uint32_t last_led;

@@ -123,20 +123,6 @@ void release_hba_info_entry(hba_info* port);
 // Releases every port and the list.
 void release_hba_info_list();
 
-// The adapter test: whether `b`'s serial number leads `a`'s, that is, equals it or
-// a leading part of it, so that `b` counts as a port of `a`'s adapter. One-sided,
-// and true for an empty `b`. Written out, since the order of large lists asks it
-// for most pairs of ports: the library's comparison takes half as long again.
-inline bool serial_leads(const hba_info& b, const hba_info& a) {
-    const char* own = a.serial_no;
-    for (const char* wanted = b.serial_no; *wanted != '\0'; ++wanted, ++own) {
-        if (*wanted != *own) {
-            return false;
-        }
-    }
-    return true;
-}
-
 inline bool serial_missing(const hba_info& port) {
     return begins_with(port.serial_no, "n/a");
 }
