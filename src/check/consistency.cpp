@@ -1,18 +1,18 @@
 #include "check/consistency.h"
 
 #include "check/subsystem.h"
+#include "conditions/match.h"
 #include "run/base/diagnostics.h"
-#include "run/base/text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <unordered_set>
 
 namespace {
 
 // One walk over the ports of an adapter.
 struct Walk {
-    fc_config_file_entry* const& entry;
+    const fc_config_file_entry& record;
     global_ctrl_flags& flags;
     hba_info* reference = nullptr; // the controller's: the first port that sees storage
 };
@@ -79,11 +79,11 @@ void compare_with_vendor(hba_info& controller_reference, global_ctrl_flags& flag
 
 // Examines one port of the chain. Returns false when that ends the walk.
 bool examine(Walk& walk, hba_info& port) {
-    if (!begins_with(port.mfg, walk.entry->vendor) || !begins_with(port.model, walk.entry->model)) {
+    if (!is_for_model(walk.record, port)) {
         return true;
     }
     if (port.check_done != 0) {
-        if (levels_above(3)) {
+        if (any_level_above(3)) {
             announce(port);
             message(1, "\t\tSubsystem check already done => continue.\n");
         }
@@ -95,7 +95,7 @@ bool examine(Walk& walk, hba_info& port) {
         message(1, "\n");
         return true;
     }
-    const bool valid = DoIndividualSubSystemCheck(port, walk.entry, walk.flags) != 0;
+    const bool valid = DoIndividualSubSystemCheck(port, walk.record, walk.flags);
     compare_with_controller(walk, port, valid);
     message(1, "\n");
     if (!valid) {
@@ -114,16 +114,24 @@ bool NewCompareWithReferenceSystem(const hba_info& a, const hba_info& b) {
            std::strcmp(a.target_mapping->vendor_id, b.target_mapping->vendor_id) != 0;
 }
 
-bool DoSubSystemCheck(const hba_info& port, fc_config_file_entry* const& entry,
-                      global_ctrl_flags& flags) {
-    Walk walk{entry, flags};
+std::vector<hba_info*> adapter_chain(const hba_info& port) {
+    std::vector<hba_info*> chain;
     // The chain of an adapter with one FCoE port leads from that port back to it.
-    std::unordered_set<const hba_info*> walked;
-    bool whole = true;
     for (hba_info* member = port.flash_port->next_port;
-         whole && member != nullptr && walked.insert(member).second; member = member->next_port) {
-        whole = examine(walk, *member);
+         member != nullptr && std::find(chain.begin(), chain.end(), member) == chain.end();
+         member = member->next_port) {
+        chain.push_back(member);
+    }
+    return chain;
+}
+
+void DoSubSystemCheck(const hba_info& port, const fc_config_file_entry& record,
+                      global_ctrl_flags& flags) {
+    Walk walk{record, flags};
+    for (hba_info* member : adapter_chain(port)) {
+        if (!examine(walk, *member)) {
+            break;
+        }
     }
     message(6, "%s\n", divider);
-    return whole;
 }

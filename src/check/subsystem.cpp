@@ -59,29 +59,30 @@ void print_storage(const target_mapping_entry& storage) {
     message(1, "\t\t\t\t%s\n", storage.product_version);
 }
 
-// Judges the storage against one allowed subsystem of its vendor. Returns true
-// when the other subsystems need not be looked at.
+// Judges the storage by one allowed subsystem of its vendor. Returns true when the other
+// subsystems need not be looked at.
 bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_entry& storage,
                      Verdict& verdict) {
     message(1, "\n");
     message(1, "\t\tAttached storage sub-system:\n");
     print_storage(storage);
-    if (allowed.models[0] == '\0') {
+    const char* const models = allowed.whole_models;
+    if (*models == '\0') {
         verdict.found = true;
     } else {
-        check_items(allowed.models, storage.product_id, verdict);
+        check_items(models, storage.product_id, verdict);
     }
     if (!verdict.found || verdict.references.empty()) {
         return false;
     }
-    if (CheckModelGroupConsistency(allowed.models, verdict.references)) {
-        message(1, "\t\t\tAll reference subsystems appear in the same group: %s\n", allowed.models);
+    if (CheckModelGroupConsistency(models, verdict.references)) {
+        message(1, "\t\t\tAll reference subsystems appear in the same group: %s\n", models);
         return true;
     }
     message(1,
             "\t\t\tAt least one reference subsystem is not member of group: %s\n\tSkip this "
             "group.\n",
-            allowed.models);
+            models);
     return false;
 }
 
@@ -113,11 +114,11 @@ bool CheckModelGroupConsistency(std::string_view group, std::string_view referen
     return true;
 }
 
-int DoIndividualSubSystemCheck(const hba_info& port, fc_config_file_entry* const& entry,
-                               global_ctrl_flags& flags) {
+bool DoIndividualSubSystemCheck(const hba_info& port, const fc_config_file_entry& record,
+                                global_ctrl_flags& flags) {
     const target_mapping_entry& storage = *port.target_mapping;
     Verdict verdict;
-    for (const auto* allowed = entry->periphery; allowed != nullptr; allowed = allowed->next) {
+    for (const auto* allowed = record.periphery; allowed != nullptr; allowed = allowed->next) {
         if (!is_blank(allowed->vendor) && std::strcmp(allowed->vendor, storage.vendor_id) == 0 &&
             check_subsystem(*allowed, storage, verdict)) {
             break;
@@ -125,11 +126,11 @@ int DoIndividualSubSystemCheck(const hba_info& port, fc_config_file_entry* const
     }
     if (verdict.found) {
         message(1, "\n");
-        return 1;
+        return true;
     }
     flags.InvalidCtrlSubsystemCombinationFound = 1;
-    if (levels_above(5)) {
+    if (any_level_above(5)) {
         print_invalid(storage);
     }
-    return 0;
+    return false;
 }

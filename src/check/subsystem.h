@@ -7,11 +7,11 @@
 
 #include <string_view>
 
-// Judges the storage of a port, which must have a target mapping, against the
-// subsystems of a conditions record. Returns 1 when it is allowed; 0, with
-// InvalidCtrlSubsystemCombinationFound set, when it is not.
-int DoIndividualSubSystemCheck(const hba_info& port, fc_config_file_entry* const& entry,
-                               global_ctrl_flags& flags);
+// Judges the storage of a port, which must have a target mapping, by the storage subsystems of a
+// conditions record. Returns whether it is allowed; sets InvalidCtrlSubsystemCombinationFound
+// when it is not.
+bool DoIndividualSubSystemCheck(const hba_info& port, const fc_config_file_entry& record,
+                                global_ctrl_flags& flags);
 
 // Whether every text of the comma-separated `references` is an item of `group`.
 bool CheckModelGroupConsistency(std::string_view group, std::string_view references);

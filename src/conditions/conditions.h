@@ -9,15 +9,18 @@
 // A storage subsystem that a controller may see.
 struct periphery_info_entry {
     char vendor[10]; // as the vendor CLI reports it
-    char models[20]; // comma-separated model prefixes; empty: every model of the vendor
+    char models[20]; // the model list as the listing shows it, cut
     char extra[10];
     periphery_info_entry* next;
+    // Comma-separated model prefixes, judged whole: a cut one would allow more models. Empty: every
+    // model of the vendor. A line has no more characters.
+    char whole_models[1024];
 };
 
 // One supported controller: a data line of the conditions file.
 struct fc_config_file_entry {
-    char vendor[20]; // leading part of the port's manufacturer
-    char model[20];  // leading part of the port's model
+    char vendor[20]; // prefix of the port's manufacturer
+    char model[20];  // prefix of the port's model
     char vendor_id_str[6];
     char device_id_str[6];
     char subvendor_id_str[6];

@@ -45,17 +45,19 @@ constexpr auto columns = std::to_array<Column>({
     {text_field<&Entry::column11>, 12},
 });
 
-// The columns that follow, three for each allowed subsystem, and what the listing
-// draws after each.
+// The columns that follow, three for each allowed storage subsystem, and what the listing draws
+// after each. A value that must not be cut has a second field.
 struct SubsystemColumn {
     std::span<char> (*field)(periphery_info_entry&);
     int width;
     const char* border;
+    std::span<char> (*whole_field)(periphery_info_entry&) = nullptr;
 };
 
 constexpr auto subsystem_columns = std::to_array<SubsystemColumn>({
     {text_field<&periphery_info_entry::vendor>, 12, " |"},
-    {text_field<&periphery_info_entry::models>, 18, " |"},
+    {text_field<&periphery_info_entry::models>, 18, " |",
+     text_field<&periphery_info_entry::whole_models>},
     {text_field<&periphery_info_entry::extra>, 12, ""},
 });
 
@@ -67,15 +69,14 @@ struct DataLine {
     periphery_info_entry* subsystem = nullptr; // the last of the record's chain
 };
 
-// Converts an identifier from its whole value: cut to its field, the text could be
-// the identifier of another adapter.
+// Converts an identifier from its whole value: cut to its field, the text could be the
+// identifier of another adapter.
 void store_identifier(const Column& column, char* value, const DataLine& line) {
     const std::int32_t number = string2int(value, 16);
     if (number < 0) {
         if (DebugLevel > 0 && PrintDebugOnScreen != 0) {
-            static_cast<void>(
-                std::fprintf(stderr, "\nError line %" PRId64 ": %s %s is not a valid hex value!\n",
-                             line.number, column.name, column.field(*line.entry).data()));
+            std::fprintf(stderr, "\nError line %" PRId64 ": %s %s is not a valid hex value!\n",
+                         line.number, column.name, column.field(*line.entry).data());
         }
         end_run(RET_FATAL_ERROR);
     }
@@ -112,6 +113,9 @@ std::int32_t store_subsystem_column(const char* value, DataLine& line) {
     }
     const SubsystemColumn& column = subsystem_columns[position];
     copy_text(column.field(*line.subsystem), value);
+    if (column.whole_field != nullptr) {
+        copy_text(column.whole_field(*line.subsystem), value);
+    }
     message(5, " %*s%s", column.width, value, column.border);
     return RET_OK;
 }
@@ -129,8 +133,8 @@ std::int32_t store_column(std::string_view text, DataLine& line) {
     return result;
 }
 
-// Makes a record of a line that is no comment. A line without any column, which
-// only one without a line end can be, makes none.
+// Makes a record of a line that is no comment. A last line of bars only, without a line end, has
+// no column and makes none.
 std::int32_t read_data_line(std::string_view text, std::int64_t number) {
     if (text.find_first_not_of('|') == std::string_view::npos) {
         return RET_OK;

@@ -1,5 +1,5 @@
-// Which ports the selection names, and which conditions records describe them:
-// the PCI identities compared. Shared by the check and the flash run.
+// Which ports the selection names and which conditions records describe them: the PCI
+// identities compared. Shared by the check and the flash run.
 #pragma once
 
 #include "conditions/conditions.h"
@@ -7,29 +7,22 @@
 #include "run/base/selection.h"
 
 #include <cstdint>
-#include <vector>
 
-// How many identifiers a record must share with the port that it describes.
-enum class Identity : std::uint8_t {
-    as_selected, // those that the selection entry names: two or four
-    whole,       // all four
-};
+// Which identifiers count when a record is compared with a port: vendor and device, or the
+// subvendor and the subdevice too.
+enum class Ids : std::uint8_t { two, four };
 
-// A port that concerns a run.
-struct Match {
-    hba_info* port;
-    // The slot of a record that describes the port; null for a port without a
-    // serial number, and for one that is selected but described by none.
-    fc_config_file_entry** record;
-    int position; // of the record, counted from 1 over all records
-};
+// The identifiers that a selection entry names.
+Ids named_ids(const option_input& entry);
 
-// What a run has to walk, in its order. For each entry of the selection (null: none)
-// and each port that it names, in list order, there is a match for each record that
-// describes the port, or one without a record. A port without a serial number is
-// there once for each entry, whether the entry names it or not. No entry names a port
-// without attributes.
-std::vector<Match> match_selection(const option_input* selection, Identity identity);
+// Whether the entry names the port. No entry names a port without attributes.
+bool selects(const option_input& entry, const hba_info& port);
 
-// Shows at level 2 the record of a match, which must have one.
-void print_record(const Match& match);
+// Whether the record has the identifiers of the port, which must have attributes.
+bool describes(const fc_config_file_entry& record, const hba_info& port, Ids ids);
+
+// Whether the record is for the port's manufacturer and model, which begin with the record's.
+bool is_for_model(const fc_config_file_entry& record, const hba_info& port);
+
+// Shows a matching record at level 2. `number` counts from 1 over all records.
+void print_record(const fc_config_file_entry& record, int number);

@@ -69,10 +69,10 @@ std::int32_t look_for_image(const ImageKind& kind, const std::string& directory,
 }
 
 std::int32_t run_flash_command(const ShellCommand& command) {
-    // A half-written image bricks the adapter: signals wait until the result of
-    // the command has been told.
+    // A half-written image bricks the adapter: signals are deferred until the result of the
+    // command has been reported.
     const SignalHold hold;
-    const std::int32_t status = run_command(command, Interruption::deferred);
+    const std::int32_t status = run_command(command, &hold);
     if (status == 0) {
         message(1, "\t\tSuccess, flash command returned code %d.\n\n", status);
     } else {
@@ -97,29 +97,30 @@ std::int32_t flash_image(const ImageKind& kind, const hba_info& flash_port,
     }
     ShellCommand command = hbacmd_command("\n\t\t", {"download", flash_port.permanent_mac, image},
                                           Output::appended, directory + "/FWtrace.out", "\n");
-    command.awaited = std::string("download of the ") + kind.name;
+    command.shown_at_terminal =
+        std::string("download of the ") + kind.name + ", Ctrl-C takes effect at its end";
     message(1, "\t\t\t%s file found: %s\n\n", kind.title, image);
     message(1, "\tNow start flashing the %s.\n\t\tFlash command is: %s\n", kind.name,
             command.text.c_str());
     return run_flash_command(command) == 0 ? RET_OK : RET_FLASH_ERROR;
 }
 
-std::int32_t flash_adapter(const hba_info& port, const fc_config_file_entry& entry) {
+std::int32_t flash_adapter(const hba_info& port, const fc_config_file_entry& record) {
     if (!exists(pHBAFirmwarePath)) {
         message(1, "\t\tFirmware directory is not available: %s\n\n", pHBAFirmwarePath);
         return RET_FW_NOT_AVAILABLE;
     }
     const std::string directory = image_directory(port);
-    const bool with_bios = entry.bios_image[0] != '\0';
-    std::int32_t result = look_for_image(firmware, directory, entry.firmware_image);
+    const bool with_bios = record.bios_image[0] != '\0';
+    std::int32_t result = look_for_image(firmware, directory, record.firmware_image);
     if (result == RET_OK && with_bios) {
-        result = look_for_image(bios, directory, entry.bios_image);
+        result = look_for_image(bios, directory, record.bios_image);
     }
     if (result == RET_OK) {
-        result = flash_image(firmware, *port.flash_port, directory, entry.firmware_image);
+        result = flash_image(firmware, *port.flash_port, directory, record.firmware_image);
     }
     if (result == RET_OK && with_bios) {
-        result = flash_image(bios, *port.flash_port, directory, entry.bios_image);
+        result = flash_image(bios, *port.flash_port, directory, record.bios_image);
     }
     return result;
 }
@@ -134,7 +135,7 @@ void print_controller_port(const hba_info& port) {
             port.pci_function);
 }
 
-std::int32_t FlashBladeEngine(hba_info& port, fc_config_file_entry* const& entry,
+std::int32_t FlashBladeEngine(hba_info& port, const fc_config_file_entry& record,
                               global_ctrl_flags& flags) {
     flags.MatchingCtrlModelInstalled = 1;
     const bool already_flashed = port.flash_port->flash_done != 0;
@@ -149,7 +150,7 @@ std::int32_t FlashBladeEngine(hba_info& port, fc_config_file_entry* const& entry
         return RET_OK;
     }
     message(1, "\t\tPort index: %d.\n\n", port.port_index);
-    if (const std::int32_t result = flash_adapter(port, *entry); result != RET_OK) {
+    if (const std::int32_t result = flash_adapter(port, record); result != RET_OK) {
         return result;
     }
     port.flash_done = 1;

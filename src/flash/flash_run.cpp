@@ -16,30 +16,44 @@ void print_missing_serial(const hba_info& port) {
             port.port_index);
 }
 
-std::int32_t flash_match(const Match& match, global_ctrl_flags& flags) {
-    if (serial_missing(*match.port)) {
-        print_missing_serial(*match.port);
+// Returns the first result of the flash engine that is not RET_OK.
+std::int32_t flash_port(const option_input& entry, hba_info& port, global_ctrl_flags& flags) {
+    if (serial_missing(port)) {
+        print_missing_serial(port);
+        return RET_OK;
+    }
+    if (!selects(entry, port)) {
         return RET_OK;
     }
     flags.MatchingCtrlModelInstalled = 1;
-    if (match.record == nullptr) {
-        return RET_OK;
+    int number = 0;
+    for (const fc_config_file_entry& record : all_conditions()) {
+        ++number;
+        // The images of another PCI subsystem of the same device could brick the adapter, so all
+        // four identifiers count here, whatever the entry names.
+        if (!describes(record, port, Ids::four)) {
+            continue;
+        }
+        if (any_level_above(5)) {
+            message(2, "\t%s\n\n", divider);
+            print_record(record, number);
+        }
+        const std::int32_t result = FlashBladeEngine(port, record, flags);
+        if (result != RET_OK) {
+            return result;
+        }
     }
-    if (levels_above(5)) {
-        message(2, "\t%s\n\n", divider);
-        print_record(match);
-    }
-    return FlashBladeEngine(*match.port, *match.record, flags);
+    return RET_OK;
 }
 
 } // namespace
 
 std::int32_t OverallFlashBladeEngine(const option_input* selection, global_ctrl_flags& flags) {
-    // The images of another subsystem of the same device could brick the adapter,
-    // so all four identifiers count here, whatever the selection named.
-    for (const Match& match : match_selection(selection, Identity::whole)) {
-        if (const std::int32_t result = flash_match(match, flags); result != RET_OK) {
-            return result;
+    for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
+        for (hba_info& port : all_ports()) {
+            if (const std::int32_t result = flash_port(*entry, port, flags); result != RET_OK) {
+                return result;
+            }
         }
     }
     return RET_OK;

@@ -19,8 +19,7 @@ struct Label {
     bool begins_port = false;
 };
 
-// A line belongs to the first row that it begins with, hence "Model" ahead of
-// "Mode".
+// A line belongs to the first row that it begins with, hence "Model" before "Mode".
 constexpr Label labels[] = {
     {"Port WWN", text_field<&hba_info::port_wwn>, "PortWWN", true},
     {"Node WWN", text_field<&hba_info::node_wwn>, "NodeWWN"},
@@ -87,10 +86,5 @@ std::int32_t read_adapter_list() {
     message(6, "\nSuccess, \"hbacmd listhbas\" command returned code %d.\n", status);
 
     ListedPorts ports;
-    const std::int32_t result =
-        read_report(file, [&](char* line) { return read_list_line(line, ports); });
-    if (result == report_not_opened) {
-        release_hba_info_list();
-    }
-    return result;
+    return read_report(file, [&](char* line) { return read_list_line(line, ports); });
 }

@@ -26,8 +26,7 @@ struct Label {
 
 constexpr bool traced = true;
 
-// A line belongs to the first row that it begins with, hence "Model Desc" ahead of
-// "Model".
+// A line belongs to the first row that it begins with, hence "Model Desc" before "Model".
 constexpr Label labels[] = {
     {"Host Name", text_field<&Entry::host_name>},
     {"Manufacturer", text_field<&Entry::manufacturer>},
@@ -74,11 +73,11 @@ constexpr Label labels[] = {
 
 // What the CLI calls the port.
 const char* port_identifier(const hba_info& port) {
-    return sees_storage(port) ? port.port_wwn : port.permanent_mac;
+    return is_fcoe_or_fc(port) ? port.port_wwn : port.permanent_mac;
 }
 
 std::int32_t begin_record(hba_info& port) {
-    // Another title replaces what the report said before it.
+    // A second title begins the record anew.
     delete port.attributes;
     port.attributes = get_new_hba_attributes_entry();
     if (port.attributes == nullptr) {
@@ -133,11 +132,5 @@ std::int32_t read_attributes(hba_info& port, const std::string& which) {
         message(1, "\t\tNo serial number => SKIP!\n");
         return RET_OK;
     }
-    const std::int32_t result =
-        read_report(file, [&](char* line) { return read_attributes_line(line, port); });
-    if (result == report_not_opened) {
-        delete port.attributes;
-        port.attributes = nullptr;
-    }
-    return result;
+    return read_report(file, [&](char* line) { return read_attributes_line(line, port); });
 }

@@ -135,8 +135,8 @@ inline bool type_begins_with(const hba_info& port, const char* type) {
     return begins_with(port.port_type, type);
 }
 
-// Whether the port has storage to show: FCoE, or plain Fibre Channel. The CLI
-// knows such a port by its world-wide name, any other by its MAC address.
-inline bool sees_storage(const hba_info& port) {
+// Whether the port is an FCoE or a plain Fibre Channel port. The CLI knows such a port by its
+// world-wide name and reports its storage; any other it knows by its MAC address.
+inline bool is_fcoe_or_fc(const hba_info& port) {
     return type_begins_with(port, "FCoE") || has_type(port, "FC");
 }

@@ -18,30 +18,30 @@ ReportFile report_file(const hba_info& port, const char* name) {
     const std::string_view function = port.pci_function;
     std::string path = pHBAWorkingPath;
     path.append("/").append(serial).append("_").append(function).append("_").append(name);
-    // A port without a serial number is named "n/a", and its report is never read.
-    const std::size_t named = serial_missing(port) ? 3 : 0;
-    const bool inside = serial.find('/', named) == std::string_view::npos &&
+    // The slash of "n/a", a missing serial number, names no directory but is run all the same: the
+    // shell can't write there, and the report is not read.
+    const std::size_t first = serial_missing(port) ? 3 : 0;
+    const bool inside = serial.find('/', first) == std::string_view::npos &&
                         function.find('/') == std::string_view::npos;
     return {std::move(path), inside};
 }
 
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
-                         ReportFile& file, const char* tail, std::string awaited) {
+                         ReportFile& file, const char* tail, std::string shown) {
     ShellCommand command = hbacmd_command(lead, words, Output::rewritten, file.path, tail);
-    file.usable =
-        file.usable && (active_option_simulate != 0 || command.text.size() <= command_length_max);
-    command.runnable = file.usable;
-    command.awaited = std::move(awaited);
+    command.shown_at_terminal = std::move(shown);
     message(6, "%s", command.text.c_str());
-    return run_command(command, Interruption::allowed);
+    const bool may_run = file.usable || active_option_simulate != 0;
+    const std::int32_t status = may_run ? run_command(command) : not_run;
+    file.usable = file.usable && status != not_run;
+    return status;
 }
 
 TextFile open_report(const ReportFile& file) {
     if (!file.usable || file.path.size() >= path_capacity) {
         return nullptr;
     }
-    return active_option_simulate != 0 ? open_text_file(file.path.c_str())
-                                       : open_text_file_without_links(file.path.c_str());
+    return open_text_file(file.path.c_str());
 }
 
 std::int32_t refuse_report(const ReportFile& file) {

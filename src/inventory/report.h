@@ -19,32 +19,30 @@ constexpr std::int32_t report_not_opened = 51;
 // A report's file in the working directory.
 struct ReportFile {
     std::string path;
-    bool usable; // false: it must be neither written nor read
+    bool usable; // false: it is neither written nor read
 };
 
 ReportFile report_file(const char* name);
 
-// The file of one port's report, named after its serial number and function; not
-// usable when these could lead out of the working directory.
+// The file of one port's report, named after its serial number and function; not usable when
+// these could lead out of the working directory.
 ReportFile report_file(const hba_info& port, const char* name);
 
-// Shows and runs the CLI's command line of `words`, framed by `lead` and `tail`,
-// which makes the report; `awaited` is shown at a terminal meanwhile. Returns the
-// raw status (see run_command). The file of a command that is too long to be run
-// becomes unusable: what it holds is an earlier run's.
+// Shows and runs the CLI's command line of `words`, framed by `lead` and `tail`, which makes the
+// report; `shown` is shown at a terminal meanwhile. Returns the raw status (see run_command).
+// The file of a command that was not run becomes unusable: its text is an earlier run's.
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
-                         ReportFile& file, const char* tail, std::string awaited);
+                         ReportFile& file, const char* tail, std::string shown);
 
-// Opens a report; when it can't be opened, returns null. Unless simulated, a link is
-// not followed: no command writes through one, so it leads to no report of this run.
+// Opens a report. Returns null when it can't be opened or is not usable.
 TextFile open_report(const ReportFile& file);
 
-// Says that a report can't be opened, and returns report_not_opened.
+// Reports that a file can't be opened, and returns report_not_opened.
 std::int32_t refuse_report(const ReportFile& file);
 
-// Opens a report and hands each line to `read_one` up to the first result other
-// than RET_OK, which it returns; report_not_opened when the file can't be opened,
-// or not be read to its end: the caller then drops what it has taken from it.
+// Opens a report and hands each line to `read_one` up to the first result other than RET_OK,
+// which it returns. Returns report_not_opened when the file can't be opened or can't be read to
+// its end; the lines read until then have been handed over.
 template <class ReadOne>
 std::int32_t read_report(const ReportFile& file, ReadOne read_one) {
     const TextFile report = open_report(file);
@@ -60,9 +58,8 @@ std::int32_t read_report(const ReportFile& file, ReadOne read_one) {
     return read_failed(report) ? refuse_report(file) : RET_OK;
 }
 
-// The first of a report's labels, rows with a `text`, that `line` begins with, or
-// null. Comparing the first characters ahead of the whole saves a run with many
-// ports a tenth of its instructions.
+// The first of a report's labels, rows with a `text`, that `line` begins with, or null. Comparing
+// the first characters before the whole saves a run with many ports a tenth of its instructions.
 template <class Label, std::size_t Count>
 const Label* find_label(const Label (&labels)[Count], const char* line) {
     for (const Label& label : labels) {

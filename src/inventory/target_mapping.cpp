@@ -66,7 +66,7 @@ std::int32_t read_mapping_line(char* line, bool below_title, hba_info& port) {
 } // namespace
 
 std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
-    if (!sees_storage(port)) {
+    if (!is_fcoe_or_fc(port)) {
         return RET_OK;
     }
     ReportFile file = report_file(port, "target_mapping.out");
@@ -84,17 +84,10 @@ std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
         return RET_OK;
     }
 
-    // Counted down to the first line below the title; there is no limit to a
-    // report's lines.
     int title_left = title_lines;
-    const std::int32_t result = read_report(file, [&](char* line) {
+    return read_report(file, [&](char* line) {
         const bool below_title = title_left == 0;
         title_left -= below_title ? 0 : 1;
         return read_mapping_line(line, below_title, port);
     });
-    if (result == report_not_opened) {
-        delete port.target_mapping;
-        port.target_mapping = nullptr;
-    }
-    return result;
 }

@@ -13,10 +13,10 @@ extern const char* const hbacmd_path;
 // Whether the CLI can be run: it is installed (errno tells why not) or simulated.
 bool hbacmd_available();
 
-// Waits for its turn where another run uses the CLI, and keeps the others waiting
-// until the process ends: two of them would rewrite each other's reports, or flash
-// the same adapter. Signals end the wait. A CLI that can't be opened for reading is
-// used without taking turns. In simulate mode nobody waits.
+// Waits while another run uses the CLI, and keeps the others waiting until the process ends: two
+// runs at once would rewrite each other's reports, or flash the same adapter. Signals end the
+// wait. A CLI that can't be opened for reading is used without taking turns. In simulate mode
+// nothing is waited for.
 void take_turn();
 
 // The command line that runs the CLI with `words`, each quoted where it needs to

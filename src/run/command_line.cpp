@@ -18,7 +18,7 @@ namespace {
 // The longest value of a selection option.
 constexpr std::size_t value_length_max = 1023;
 
-// What the words have said so far.
+// What the words up to now have set.
 struct Parse {
     const char* program_name;
     Words words;
@@ -71,7 +71,7 @@ void apply(const Option& option, const char* word, Parse& parse) {
         silence();
         break;
     case Effect::level:
-        static_cast<void>(parse.next_word());
+        parse.next_word();
         break;
     case Effect::list:
         parse.selection =
@@ -133,9 +133,9 @@ void check_combinations(const std::array<bool, selection_kinds>& given) {
     for (const auto& [kind, name] : {std::pair{kind_vendor_name, "-vn"}, {kind_model, "-mod"}}) {
         if (by_id && given[kind]) {
             message(1,
-                    "\n\nCombining options \"%s\", \"%s\", \"%s\", \"%s\" together with option "
-                    "\"%s\" is not supported.\t!\n",
-                    "-vid", "-subvid", "-dev", "-subdev", name);
+                    "\n\nCombining options \"-vid\", \"-subvid\", \"-dev\", \"-subdev\" together with "
+                    "option \"%s\" is not supported.\t!\n",
+                    name);
             end_run(RET_BAD_CALL);
         }
     }
@@ -144,14 +144,6 @@ void check_combinations(const std::array<bool, selection_kinds>& given) {
             message(1, "\n\nPlease, also specify %s (option \"%s\")\n, if using option \"%s\"!\n",
                     need.needed_values, need.needed_option, need.given_option);
             end_run(RET_BAD_CALL);
-        }
-    }
-}
-
-void switch_off_options() {
-    for (const Option& option : options()) {
-        if (option.setting != nullptr) {
-            *option.setting = 0;
         }
     }
 }
@@ -166,7 +158,6 @@ void choose_default_check() {
 } // namespace
 
 const option_input* read_command_line(const char* program_name, Words words) {
-    switch_off_options();
     normalize_words(words);
     read_levels(words);
     Parse parse{.program_name = program_name, .words = words};

@@ -34,12 +34,6 @@ void append(std::span<char> path, std::string_view text) {
 
 } // namespace
 
-void reset_directories() {
-    copy_text(pHBAConditionsPath, "");
-    copy_text(pHBAFirmwarePath, "");
-    copy_text(pHBAWorkingPath, "");
-}
-
 void set_directories(const char* directory) {
     if (std::strlen(directory) > directory_length_max) {
         message(1, "\n\nPath '%s' is too long (at most %d characters)!\n\n", directory,
@@ -62,20 +56,16 @@ void resolve_directories(const char* typed_program) {
     append(pHBAFirmwarePath, "/");
     append(pHBAConditionsPath, "/");
     append(pHBAConditionsPath, conditions_file_name);
-    if (DebugLevel > 0) {
-        open_debug_log((std::string(pHBAWorkingPath) + "Merlie_DLL.log").c_str());
-    }
-    message(3, "HBA conditions file: %s\n", pHBAConditionsPath);
 }
 
 void resolve_temporary_directory() {
     const char* const directory = std::getenv("TMPDIR");
     if (directory == nullptr) {
         copy_text(TEMPDIR_BUFFER, "/tmp");
-        message(3, "env: Environment variable %s is not set.\n", "TMPDIR");
+        message(3, "env: Environment variable TMPDIR is not set.\n");
     } else if (*directory == '\0') {
         copy_text(TEMPDIR_BUFFER, "/tmp");
-        message(3, "env: Environment variable %s is empty.\n", "TMPDIR");
+        message(3, "env: Environment variable TMPDIR is empty.\n");
     } else {
         copy_text(TEMPDIR_BUFFER, directory);
         message(3, "env: Temporary directory is: %s.\n", TEMPDIR_BUFFER);

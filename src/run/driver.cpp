@@ -13,6 +13,7 @@
 #include "run/base/result_flags.h"
 #include "run/base/return_codes.h"
 #include "run/base/settings.h"
+#include "run/base/terminal_line.h"
 #include "run/command_line.h"
 #include "run/directories.h"
 #include "run/summary.h"
@@ -20,6 +21,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <new>
+#include <string>
 
 namespace {
 
@@ -28,11 +31,10 @@ const char* base_name(const char* word) {
     return slash == nullptr ? word : slash + 1;
 }
 
-void start_anew() {
-    prepare_process();
-    close_debug_log();
-    set_levels(0, 1, 1);
-    reset_directories();
+void start_debug_log() {
+    if (DebugLevel > 0) {
+        open_debug_log((std::string(pHBAWorkingPath) + "Merlie_DLL.log").c_str());
+    }
 }
 
 void read_conditions(const char* program_name) {
@@ -54,25 +56,25 @@ void read_conditions(const char* program_name) {
     }
 }
 
-// The status of a run that found nothing to work on.
-std::int32_t unless_qmr_mode(std::int32_t status) {
+// `status`, or with --qmr-mode success: for a run that found nothing to work on.
+std::int32_t status_when_nothing_found(std::int32_t status) {
     return active_option_qmr_mode != 0 ? RET_OK : status;
 }
 
 void make_inventory(global_ctrl_flags& flags) {
     flags.NoFcCtrlInstalled = 0;
     flags.VendorReferenceSubsystem = nullptr;
-    // Only an absent list ends the run: what could be read is checked.
-    static_cast<void>(Get_All_Hba_Info());
+    // Only an absent list ends the run: the ports that could be read are checked.
+    Get_All_Hba_Info();
     if (p_hba_info_list == nullptr) {
         message(1, "\nNo Blade Engine was found in this system.\n\n");
         flags.NoFcCtrlInstalled = 1;
-        end_run(unless_qmr_mode(RET_NO_FC_CTRL_INSTALLED));
+        end_run(status_when_nothing_found(RET_NO_FC_CTRL_INSTALLED));
     }
 }
 
-// Ends the run at a port whose adapter has no port to flash it through: some of
-// its functions are missing, as without the kernel module that brings them.
+// Ends the run at a port whose adapter has no flash port: some of the adapter's functions are
+// missing, as without the kernel module that provides them.
 void check_kernel_module() {
     for (const hba_info& port : all_ports()) {
         if (!serial_missing(port) && port.flash_port == nullptr) {
@@ -113,10 +115,10 @@ void flash(const option_input* selection, global_ctrl_flags& flags) {
     }
 }
 
-// Flashes only when the check has passed. After one that failed without a code of its
-// own the run goes on to its usual end, without the flash.
+// Flashes only when the check has passed. After a check that failed without a code of its own
+// the run goes on to its usual end, without the flash.
 void check_then_flash(const option_input* selection, global_ctrl_flags& flags) {
-    if (OverallSubSystemCheck(selection, flags) != 0) {
+    if (OverallSubSystemCheck(selection, flags)) {
         flash(selection, flags);
         return;
     }
@@ -132,16 +134,16 @@ void dispatch(const option_input* selection, global_ctrl_flags& flags) {
     } else if (active_option_flash != 0) {
         check_then_flash(selection, flags);
     } else {
-        show_check_result(OverallSubSystemCheck(selection, flags) != 0);
+        show_check_result(OverallSubSystemCheck(selection, flags));
     }
 }
 
 std::int32_t exit_status(const global_ctrl_flags& flags) {
     if (flags.NoFcCtrlInstalled != 0) {
-        return unless_qmr_mode(RET_NO_FC_CTRL_INSTALLED);
+        return status_when_nothing_found(RET_NO_FC_CTRL_INSTALLED);
     }
     if (flags.MatchingCtrlModelInstalled == 0) {
-        return unless_qmr_mode(RET_NO_MATCHING_CTRL_FOUND);
+        return status_when_nothing_found(RET_NO_MATCHING_CTRL_FOUND);
     }
     return failed_check(flags);
 }
@@ -153,18 +155,14 @@ void reset_results(global_ctrl_flags& flags) {
     flags.CtrlSpecificSubsystemEquality = 1;
 }
 
-} // namespace
-
-void run_tool(int argc, char** argv) {
-    start_anew();
-    // A caller may start a program without any word at all.
-    const char* const typed_program = argc > 0 ? argv[0] : "cnatool";
-    const char* const program_name = base_name(typed_program);
-    const Words words(argv + 1, argc > 0 ? static_cast<std::size_t>(argc) - 1 : 0);
+[[noreturn]] void run(const char* typed_program, const char* program_name, Words words) {
     const option_input* const selection = read_command_line(program_name, words);
+    terminal_lines_enabled = PrintDebugOnScreen != 0 && VerboseLevel != 0;
 
     resolve_temporary_directory();
     resolve_directories(typed_program);
+    start_debug_log();
+    message(3, "HBA conditions file: %s\n", pHBAConditionsPath);
     read_conditions(program_name);
 
     global_ctrl_flags flags{};
@@ -172,17 +170,34 @@ void run_tool(int argc, char** argv) {
     Classify_Ctrl_List();
     Determine_Flash_Ports();
     check_kernel_module();
-    if (levels_above(3)) {
+    if (any_level_above(3)) {
         list_controllers();
     }
 
     reset_results(flags);
-    if (levels_above(5)) {
+    if (any_level_above(5)) {
         list_flags("\n", flags);
     }
     dispatch(selection, flags);
-    if (levels_above(5)) {
+    if (any_level_above(5)) {
         list_flags("", flags);
     }
     end_run(exit_status(flags));
+}
+
+} // namespace
+
+void run_tool(int argc, char** argv) {
+    reset_inherited_state();
+    set_levels(0, 1, 1);
+    // A caller may start a program without any word at all.
+    const char* const typed_program = argc > 0 ? argv[0] : "cnatool";
+    const char* const program_name = base_name(typed_program);
+    try {
+        run(typed_program, program_name,
+            Words(argv + 1, argc > 0 ? static_cast<std::size_t>(argc) - 1 : 0));
+    } catch (const std::bad_alloc&) {
+        message(1, "Error: %s, Memory allocation failed!\n", program_name);
+        end_run(RET_MEMALLOC_FAIL);
+    }
 }

@@ -2,5 +2,4 @@
 #pragma once
 
 // Runs the tool on a command line and ends the process with the exit status.
-// Throws std::bad_alloc when memory is exhausted outside the records.
 [[noreturn]] void run_tool(int argc, char** argv);

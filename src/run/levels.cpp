@@ -5,26 +5,28 @@
 #include "run/base/return_codes.h"
 #include "run/base/text.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
 namespace {
 
+constexpr std::int32_t level_max = 6;
+
 bool contains(std::string_view word, std::string_view text) {
     return word.find(text) != std::string_view::npos;
 }
 
-// The level that follows a level word as its `value` (null: no word follows).
-// `name` and `letter` are what the refusal, which ends the run, calls it.
-std::int32_t read_level(std::string_view word, char* value, const char* name, char letter) {
+// The level that follows a level word as its `value` (null: no word follows). A bad one ends
+// the run with the refusal.
+std::int32_t read_level(std::string_view word, char* value, const char* refusal) {
     if (word.size() == 2 && value != nullptr && *value != '\0' && *value != '-') {
         const std::int32_t level = string2int(value, 10);
-        if (level >= level_min && level <= level_max) {
+        if (level >= 0 && level <= level_max) {
             return level;
         }
     }
-    message(1, "Please enter a valid %s-level (-%c <%s-level>; min %d - max %d)!\n", name, letter,
-            name, level_min, level_max);
+    message(1, "%s", refusal);
     end_run(RET_BAD_CALL);
 }
 
@@ -52,13 +54,13 @@ void normalize_words(Words words) {
         if (*word == '/') {
             *word = '-';
         }
-        if (is_silent_word(word)) {
-            silence();
-        }
     }
 }
 
 void read_levels(Words words) {
+    if (std::any_of(words.begin(), words.end(), is_silent_word)) {
+        silence();
+    }
     bool verbose_given = false;
     bool debug_given = false;
     for (std::size_t i = 0; i < words.size(); ++i) {
@@ -66,11 +68,15 @@ void read_levels(Words words) {
         if (is_silent_word(words[i])) {
             silence();
         } else if (is_debug_word(words[i])) {
-            DebugLevel = read_level(words[i], next, "debug", 'd');
+            DebugLevel = read_level(
+                words[i], next,
+                "Please enter a valid debug-level (-d <debug-level>; min 0 - max 6)!\n");
             debug_given = true;
             ++i;
         } else if (is_verbose_word(words[i])) {
-            VerboseLevel = read_level(words[i], next, "verbose", 'v');
+            VerboseLevel = read_level(
+                words[i], next,
+                "Please enter a valid verbose-level (-v <verbose-level>; min 0 - max 6)!\n");
             PrintDebugOnScreen = VerboseLevel > 0 ? 1 : 0;
             verbose_given = true;
             ++i;
@@ -78,7 +84,7 @@ void read_levels(Words words) {
     }
     if (verbose_given && debug_given) {
         set_levels(0, 1, 1);
-        message(1, "\nUsing options %s and %s simultaneously is not supported!\n", "--debug", "-v");
+        message(1, "\nUsing options --debug and -v simultaneously is not supported!\n");
         end_run(RET_BAD_CALL);
     }
     if (debug_given) {

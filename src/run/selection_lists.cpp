@@ -7,14 +7,12 @@
 #include "run/base/text.h"
 
 #include <array>
+#include <new>
 #include <span>
 #include <string>
 
 namespace {
 
-// The heads of the two lists.
-option_input* pci_id_list = nullptr;
-option_input* shared_list = nullptr;
 std::int32_t option_input_cnt = 0;
 
 // Where the items of a kind go, and what the messages call them. Identifiers have
@@ -48,13 +46,12 @@ option_input& entry_at(option_input*& link) {
         link = get_new_option_input_buffer();
     }
     if (link == nullptr) {
-        end_run(RET_MEMALLOC_FAIL);
+        throw std::bad_alloc();
     }
     return *link;
 }
 
-// Stores an identifier, converted from the whole item; a bad one is refused at
-// the level given.
+// Stores an identifier, converted from the whole item. A bad one is refused at the level given.
 void store_id(option_input& entry, const Target& target, std::string_view item,
               std::int32_t level) {
     std::string text(item);
@@ -100,19 +97,12 @@ std::size_t store_group(option_input& entry, std::string_view group) {
     return count;
 }
 
-void list_pci_ids() {
-    for (const option_input* entry = pci_id_list; entry != nullptr; entry = entry->next) {
+void list_pci_ids(const option_input* head) {
+    for (const option_input* entry = head; entry != nullptr; entry = entry->next) {
         message(2, "\n\tVendor-Id 0x%x\n", static_cast<std::uint32_t>(entry->vendor_id));
         message(2, "\tDevice-Id 0x%x\n", static_cast<std::uint32_t>(entry->device_id));
         message(2, "\tSubVendor-Id 0x%x\n", static_cast<std::uint32_t>(entry->subvendor_id));
         message(2, "\tSubDevice-Id 0x%x\n", static_cast<std::uint32_t>(entry->subdevice_id));
-    }
-}
-
-void release_list(option_input*& head) {
-    while (option_input* const entry = head) {
-        head = entry->next;
-        delete entry;
     }
 }
 
@@ -123,18 +113,19 @@ option_input* get_new_option_input_buffer() {
 }
 
 const option_input* save_list_of_pci_ids(std::string_view value) {
+    static option_input* p_option_input = nullptr;
     const std::string whole(value);
-    if (levels_above(2)) {
+    if (any_level_above(2)) {
         message(2, "\nList of input pci-ids: \"%s\"\n", whole.c_str());
     }
     if (value.empty()) {
         end_run(RET_BAD_CALL);
     }
-    // The head is there even when no group is.
-    static_cast<void>(entry_at(pci_id_list));
-    option_input** link = &pci_id_list;
+    // A value without any group still makes the head.
+    entry_at(p_option_input);
+    option_input** link = &p_option_input;
     for (const std::string_view group : split(value, ',')) {
-        // Whatever follows two commas in a row is not read.
+        // Groups after two commas in a row are not read.
         if (group.empty()) {
             break;
         }
@@ -146,21 +137,22 @@ const option_input* save_list_of_pci_ids(std::string_view value) {
         }
         link = &entry.next;
     }
-    if (levels_above(5)) {
-        list_pci_ids();
+    if (any_level_above(5)) {
+        list_pci_ids(p_option_input);
     }
-    return pci_id_list;
+    return p_option_input;
 }
 
 const option_input* save_list_of_ctrl_options(std::string_view value, std::uint32_t kind) {
+    static option_input* p_option_input = nullptr;
     if (kind >= targets.size()) {
         end_run(RET_FATAL_ERROR);
     }
     const Target& target = targets[kind];
-    if (levels_above(2)) {
+    if (any_level_above(2)) {
         message(2, "List of input %s: %s\n", target.list_name, std::string(value).c_str());
     }
-    option_input** link = &shared_list;
+    option_input** link = &p_option_input;
     int index = 0;
     for (const std::string_view item : split(value, ',')) {
         if (item.empty()) {
@@ -168,17 +160,11 @@ const option_input* save_list_of_ctrl_options(std::string_view value, std::uint3
         }
         option_input& entry = entry_at(*link);
         store_item(entry, target, item);
-        if (levels_above(2)) {
+        if (any_level_above(2)) {
             echo_item(entry, target, index);
         }
         ++index;
         link = &entry.next;
     }
-    return shared_list;
-}
-
-void release_selection_lists() {
-    release_list(pci_id_list);
-    release_list(shared_list);
-    option_input_cnt = 0;
+    return p_option_input;
 }

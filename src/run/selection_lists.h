@@ -28,10 +28,7 @@ option_input* get_new_option_input_buffer();
 const option_input* save_list_of_pci_ids(std::string_view value);
 
 // Reads a comma-separated list of the given kind, the k-th item into the k-th
-// entry of the list that all kinds share, and returns its head; null when no
-// call made an entry yet. An identifier that is not hexadecimal, or an unknown
+// entry of the list that all kinds share, and returns its head; null while no
+// call has made an entry. An identifier that is not hexadecimal, or an unknown
 // kind, ends the run with RET_FATAL_ERROR.
 const option_input* save_list_of_ctrl_options(std::string_view value, std::uint32_t kind);
-
-// Empties both lists.
-void release_selection_lists();

@@ -6,8 +6,8 @@
 #include "inventory/hba_info.h"
 #include "run/base/end_run.h"
 #include "run/base/return_codes.h"
+#include "run/base/settings.h"
 #include "run/driver.h"
-#include "run/selection_lists.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -73,10 +73,13 @@ struct Directory {
 void run_with(const BladeFile& file, const std::string& content, bool flash) {
     static const Directory directory;
     directory.write({file.name, content});
-    std::string words[] = {"./cnatool", "--simulate", "-v", "6", "-pci-id", "19A2:0714", "--flash"};
+    std::string words[] = {"./cnatool", "--conpath", ".",         "--simulate", "-v",
+                           "6",         "-pci-id",   "19A2:0714", "--flash"};
     char* argv[std::size(words)];
     std::transform(std::begin(words), std::end(words), argv,
                    [](auto& word) { return word.data(); });
+    active_option_flash = 0;
+    active_option_valid_subsystem = 0;
     std::int32_t status = -1;
     try {
         run_tool(static_cast<int>(std::size(words)) - (flash ? 0 : 1), argv);
@@ -85,7 +88,6 @@ void run_with(const BladeFile& file, const std::string& content, bool flash) {
     }
     release_hba_info_list();
     release_config_entry_list();
-    release_selection_lists();
     directory.write(file);
     const auto codes = return_codes();
     if (std::none_of(codes.begin(), codes.end(),

@@ -35,8 +35,8 @@ commands ignore nothing.
   $ lay_standin && echo 'head -c 99999 /dev/zero 2>/dev/null' >cli/call18 && (ulimit -f 8 && real -v 6 $flash >out; echo "=> $?")
   => 10
 
-Nothing is written to what is no regular file with one name; a run that meets it
-neither hangs nor takes it for a report.
+Nothing is written to what is no regular file with one name: in a report's place it is
+removed, in the trace's the command is not run.
 
   $ meets() {
   >     for put in mkfifo 'ln -s ../secret' 'ln secret'; do
@@ -50,25 +50,22 @@ neither hangs nor takes it for a report.
         3 precious
         3 returned code -1.
   $ meets local_hba_list.out
-        3 => 13
-        3 No Blade
+        3 => 0
         3 precious
-        3 returned code -1.
   $ meets VM10250117_0_hba_attributes.out
-        3 => 12
-        3 Error: Could not open file blade//VM10250117_0_hba_attributes.out
+        3 => 0
         3 precious
-        3 returned code -1.
   $ lay_standin && mkdir blade/FWtrace.out && real $flash 2>&1 | grep -o 'returned code.*'
-  returned code 512.
+  returned code -1.
 
-A report is emptied before its command runs, and nobody else can write to it.
+A report is emptied before its command runs.
 
   $ lay_standin && touch blade/local_hba_list.out && chmod 666 blade/local_hba_list.out
   $ echo 'wc -c <blade/local_hba_list.out >&2; exec cat cli/reports/local_hba_list.out' >cli/call1
   $ echo stale >blade/local_hba_list.out && (umask 0 && quiet $flash) && find blade -type f -perm /022
   0
   => 0
+  blade/local_hba_list.out
 
 What can't be read to its end counts for nothing.
 
@@ -96,7 +93,7 @@ A terminal is told what the tool waits for, which is wiped; a file never.
   $ lay_standin && watched $flash | tr '\r' '~' >out; head -c 28 out; tr '~' '\n' <out | grep -e '^port 5' -e '^down'
   ~adapter list~~            ~port 5 of 11: attributes
   port 5 of 11: target mapping
-  download of the firmware
+  download of the firmware, Ctrl-C takes effect at its end
   $ watched --silent; watched -v 0; watched -d 1; real $flash 2>&1 | grep -c 'of 11'
   0
   [1]

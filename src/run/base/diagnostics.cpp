@@ -37,7 +37,7 @@ int PrintDebug(std::int32_t level, const char* text, std::FILE* stream) {
         return 0;
     }
     // A full disk or a closed pipe must not change what the run does.
-    static_cast<void>(std::fprintf(target, "%.*s", static_cast<int>(message_length_max), text));
+    std::fprintf(target, "%.*s", static_cast<int>(message_length_max), text);
     return 1;
 }
 
@@ -45,22 +45,14 @@ void open_debug_log(const char* path) {
     debug_log = create_private_file(path);
 }
 
-void close_debug_log() {
-    debug_log.reset();
-}
-
-bool message_shown(std::int32_t level) {
-    return !hidden(level, debug_log.get());
-}
-
 void message(std::int32_t level, const char* format, ...) {
-    if (!message_shown(level)) {
+    if (hidden(level, debug_log.get())) {
         return;
     }
     std::array<char, message_length_max + 1> text;
     va_list values;
     va_start(values, format);
-    static_cast<void>(std::vsnprintf(text.data(), text.size(), format, values));
+    std::vsnprintf(text.data(), text.size(), format, values);
     va_end(values);
-    static_cast<void>(PrintDebug(level, text.data(), debug_log.get()));
+    PrintDebug(level, text.data(), debug_log.get());
 }

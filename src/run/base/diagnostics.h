@@ -27,21 +27,15 @@ void set_levels(std::int32_t debug, std::int32_t verbose, std::int32_t screen);
 // when it was written, 0 when it was hidden.
 int PrintDebug(std::int32_t level, const char* text, std::FILE* stream);
 
-// Opens the log of a debug run, emptied, and sends the messages there from now
-// on. A log that can't be opened is no error: the run goes on without one.
+// Opens the log of a debug run, emptied, and sends the messages there from now on. A log that
+// can't be opened is no error: the run goes on without one.
 void open_debug_log(const char* path);
-
-// Ends the log; without one nothing happens.
-void close_debug_log();
 
 // True when the verbose or the debug level is above `level`: the stricter gate
 // that some messages have beside their own level.
-inline bool levels_above(std::int32_t level) {
+inline bool any_level_above(std::int32_t level) {
     return VerboseLevel > level || DebugLevel > level;
 }
-
-// Whether a message of `level` would be written anywhere.
-bool message_shown(std::int32_t level);
 
 // Formats a message, cut to message_length_max characters, and hands it to
 // PrintDebug. Nothing is formatted when the levels hide it.

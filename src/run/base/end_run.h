@@ -1,9 +1,8 @@
-// The one door out of a run.
+// The single exit of a run.
 #pragma once
 
 #include <cstdint>
 
-// Ends the process with `status`, after what has been said is written. It stands
-// alone in its file so that a program that makes many runs in one process can
-// bring another.
+// Flushes the messages and ends the process with `status`. It is alone in its file so that
+// another program can define its own.
 [[noreturn]] void end_run(std::int32_t status);

@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-void prepare_process() {
+void reset_inherited_state() {
     // The lowest free descriptor is taken, so the loop ends after the third.
     int descriptor = 0;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
@@ -16,12 +16,12 @@ void prepare_process() {
     if (descriptor > STDERR_FILENO) {
         close(descriptor);
     }
-    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
-    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
-    static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGCHLD, SIG_DFL);
     umask(umask(0) | S_IWGRP | S_IWOTH);
-    // Some shells take their options, or the state of their option parser, from there:
-    // noexec lets every command succeed without being run.
+    // Some shells take their options, or the state of their option parser, from these
+    // variables: with noexec every command succeeds without being run.
     for (const char* const variable : {"SHELLOPTS", "BASHOPTS", "OPTIND"}) {
         unsetenv(variable);
     }

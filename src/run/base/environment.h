@@ -1,9 +1,8 @@
-// What the process has been handed down by whoever started it.
+// What the process inherits from its caller.
 #pragma once
 
-// Makes the run independent of it: closed standard streams are opened, so that no
-// report takes their place; a reader that goes away, or a limit of file size, does
-// not end the run; ended child processes can be waited for; what is written is
-// writable by its owner alone; and no variable changes what the shell does with a
-// command.
-void prepare_process();
+// Resets what would change how a run or its commands behave: closed standard streams are
+// opened, so that no report takes their place; a reader that goes away, or a file-size limit,
+// does not end the run; ended child processes can be waited for; new files are writable by their
+// owner alone; and no variable changes how the shell runs a command.
+void reset_inherited_state();

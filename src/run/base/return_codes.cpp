@@ -21,8 +21,7 @@ std::string returnMessage() {
     std::string text = "\n   Valid return codes\n\n";
     for (const auto& code : codes) {
         std::array<char, 64> line{};
-        static_cast<void>(
-            std::snprintf(line.data(), line.size(), "   %-40s%2d\n", code.name, code.value));
+        std::snprintf(line.data(), line.size(), "   %-40s%2d\n", code.name, code.value);
         text += line.data();
     }
     return text + "\n";

@@ -3,17 +3,21 @@
 #include <cstdio>
 
 SignalHold::SignalHold() {
-    // A reader who is slow to take the messages must not make a signal wait.
-    static_cast<void>(std::fflush(nullptr));
+    // A slow reader of the messages must not make a signal wait.
+    std::fflush(nullptr);
     sigset_t held;
-    sigemptyset(&held);
-    for (const int signal : signals) {
-        sigaddset(&held, signal);
-    }
+    sigfillset(&held);
+    // The end of the command is not a signal to wait for: nobody acts on it.
+    sigdelset(&held, SIGCHLD);
     sigprocmask(SIG_BLOCK, &held, &before_);
 }
 
 SignalHold::~SignalHold() {
-    static_cast<void>(std::fflush(nullptr));
+    sigset_t waiting;
+    sigpending(&waiting);
+    // Without one, a reader who has stopped reading must not keep later signals waiting.
+    if (sigisemptyset(&waiting) == 0) {
+        std::fflush(nullptr);
+    }
     sigprocmask(SIG_SETMASK, &before_, nullptr);
 }

@@ -1,19 +1,19 @@
-// Keeping signals from breaking what must not be broken.
+// Deferring signals while something must not be broken off.
 #pragma once
 
 #include <csignal>
 
-// While it lives, Ctrl-C, Ctrl-\, a hang-up of the terminal and a polite kill
-// wait, and the command that is run meanwhile (run_command) is kept from them. At
-// its end the messages are flushed and a signal that came takes effect.
+// While it lives, every signal that can be held is deferred. At its end a deferred signal takes
+// effect, after the messages written so far have been flushed.
 class SignalHold {
 public:
-    static constexpr int signals[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};
-
     SignalHold();
     SignalHold(const SignalHold&) = delete;
     SignalHold& operator=(const SignalHold&) = delete;
     ~SignalHold();
+
+    // The signal mask of before, which a command that is run meanwhile starts with.
+    [[nodiscard]] const sigset_t& mask_before() const { return before_; }
 
 private:
     sigset_t before_{};

@@ -1,24 +1,22 @@
 #include "run/base/terminal_line.h"
 
-#include "run/base/diagnostics.h"
-
 #include <cstdio>
 #include <string>
 #include <unistd.h>
 
 namespace {
 
-// A longer line could wrap, and what has wrapped can't be wiped.
+// A longer line could wrap, and only the last line of the screen can be erased.
 constexpr std::size_t length_max = 79;
 
 bool watched() {
-    return PrintDebugOnScreen != 0 && VerboseLevel != 0 && isatty(STDERR_FILENO) == 1 &&
+    return terminal_lines_enabled && isatty(STDERR_FILENO) == 1 &&
            tcgetpgrp(STDERR_FILENO) == getpgrp();
 }
 
 void write_line(const std::string& text) {
-    static_cast<void>(std::fprintf(stderr, "\r%s\r", text.c_str()));
-    static_cast<void>(std::fflush(stderr));
+    std::fprintf(stderr, "\r%s\r", text.c_str());
+    std::fflush(stderr);
 }
 
 } // namespace

@@ -1,12 +1,15 @@
-// What the tool waits for, told to whoever watches it at a terminal.
+// What the program is waiting for, shown to someone who watches it at a terminal.
 #pragma once
 
 #include <cstddef>
 #include <string_view>
 
-// Shows a line on standard error while it lives, and wipes it at its end. Nothing
-// is shown when standard error is no terminal (a file and a pipe never see it), when
-// another job has the terminal, or when the messages are hidden, as in a debug run.
+// Whether lines are shown at all. A program sets it once it has read its command line.
+inline bool terminal_lines_enabled = false;
+
+// Shows a line on standard error while it lives, and erases it at its end. Nothing is shown
+// if standard error is no terminal (a file and a pipe never get it) or if another job has the
+// terminal.
 class TerminalLine {
 public:
     explicit TerminalLine(std::string_view text);

@@ -1,44 +1,41 @@
 #include "run/base/text_file.h"
 
-#include "run/base/regular_file.h"
-
-#include <cerrno>
 #include <fcntl.h>
-#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
 namespace {
 
-// The stream of a descriptor, which it takes over.
-TextFile stream_of(int descriptor, const char* mode) {
-    TextFile file(descriptor < 0 ? nullptr : fdopen(descriptor, mode));
-    if (file == nullptr && descriptor >= 0) {
-        close(descriptor);
+// Opens a regular file with the flags of open(2) and, where it is created, the mode, and reads
+// its `status`. It never waits, as opening a FIFO would. Returns null when the file can't be
+// opened or is something else (a directory, a device).
+TextFile open_regular_file(const char* path, int flags, mode_t mode, struct stat& status) {
+    const int descriptor = open(path, flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode);
+    if (descriptor < 0) {
+        return nullptr;
     }
-    return file;
+    TextFile file(fdopen(descriptor, (flags & O_WRONLY) != 0 ? "w" : "r"));
+    if (file == nullptr) {
+        close(descriptor);
+        return nullptr;
+    }
+    const bool regular = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    return regular ? std::move(file) : nullptr;
 }
 
 } // namespace
 
 TextFile open_text_file(const char* path) {
     struct stat status {};
-    return stream_of(open_regular_file(path, O_RDONLY, 0, status), "r");
-}
-
-TextFile open_text_file_without_links(const char* path) {
-    struct stat status {};
-    TextFile file = stream_of(open_regular_file(path, O_RDONLY | O_NOFOLLOW, 0, status), "r");
-    return status.st_nlink == 1 ? std::move(file) : nullptr;
+    return open_regular_file(path, O_RDONLY, 0, status);
 }
 
 TextFile create_private_file(const char* path) {
     struct stat status {};
-    const int descriptor = open_regular_file(path, O_WRONLY | O_CREAT | O_NOFOLLOW, 0600, status);
-    TextFile file = stream_of(descriptor, "w");
-    // A run that is still going on keeps its file.
+    TextFile file = open_regular_file(path, O_WRONLY | O_CREAT | O_NOFOLLOW, 0600, status);
     const bool own = file != nullptr && status.st_nlink == 1 && status.st_uid == geteuid() &&
-                     (flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) &&
-                     fchmod(descriptor, 0600) == 0 && ftruncate(descriptor, 0) == 0;
+                     fchmod(fileno(file.get()), 0600) == 0 &&
+                     ftruncate(fileno(file.get()), 0) == 0;
     return own ? std::move(file) : nullptr;
 }

@@ -5,19 +5,16 @@
 #include <memory>
 
 struct FileCloser {
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+    void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using TextFile = std::unique_ptr<std::FILE, FileCloser>;
 
 // The text of one read. A longer line is read in pieces.
 using LineBuffer = char[1024];
 
-// Opens a regular file for reading; null when it can't be opened or when `path`
+// Opens a regular file for reading. Returns null when it can't be opened or when `path`
 // names something else (a directory, a FIFO).
 TextFile open_text_file(const char* path);
-
-// The same, but a link is not followed, nor is a file with a second name opened.
-TextFile open_text_file_without_links(const char* path);
 
 // Reads the next line, or the next piece of a long one, with its line end.
 // Returns false at the end of the file, and where it can't be read any further.
@@ -30,8 +27,7 @@ inline bool read_failed(const TextFile& file) {
     return std::ferror(file.get()) != 0;
 }
 
-// Makes a file that messages are written to, emptied and readable by its owner
-// alone. Null when it can't be opened or could be somebody else's: nothing is
-// written through a link, to what has another owner or a second name, or to what
-// another run writes at the same time.
+// Makes a file that messages are written to, emptied and readable by its owner alone. Returns
+// null when it can't be opened or could be somebody else's: nothing is written through a link,
+// nor to a file with another owner or a second name.
 TextFile create_private_file(const char* path);
