@@ -50,8 +50,8 @@ void compare_with_controller(Walk& walk, hba_info& port, bool valid) {
     }
 }
 
-// A controller's reference stands for the whole controller; the first of a run
-// becomes the vendor's.
+// A controller's reference is compared for the whole controller; the first of a run becomes the
+// vendor's.
 void compare_with_vendor(hba_info& controller_reference, global_ctrl_flags& flags) {
     if (flags.VendorReferenceSubsystem == nullptr) {
         flags.VendorReferenceSubsystem = &controller_reference;

@@ -1,5 +1,4 @@
-// Whether the ports of an adapter, and the adapters of a vendor, see the same
-// storage.
+// Whether the ports of an adapter, and the adapters of a vendor, see the same storage.
 #pragma once
 
 #include "conditions/conditions.h"

@@ -1,70 +1,25 @@
 #include "conditions/conditions_file.h"
 
-#include "conditions/conditions.h"
+#include "conditions/columns.h"
 #include "run/base/diagnostics.h"
 #include "run/base/end_run.h"
 #include "run/base/return_codes.h"
-#include "run/base/text.h"
 #include "run/base/text_file.h"
 
-#include <array>
 #include <cinttypes>
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
-#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
-using Entry = fc_config_file_entry;
-
-// The columns that describe the controller: where the value goes and how wide the
-// listing shows it. An identifier also has a number, and the name that its refusal
-// gives it.
-struct Column {
-    std::span<char> (*field)(Entry&);
-    int width;
-    std::int32_t Entry::*number = nullptr;
-    const char* name = nullptr;
-};
-
-constexpr auto columns = std::to_array<Column>({
-    {text_field<&Entry::vendor>, 18},
-    {text_field<&Entry::model>, 16},
-    {text_field<&Entry::vendor_id_str>, 6, &Entry::vendor_id, "Vendor-Id"},
-    {text_field<&Entry::device_id_str>, 6, &Entry::device_id, "Device-Id"},
-    {text_field<&Entry::subvendor_id_str>, 6, &Entry::subvendor_id, "Sub-Vendor-Id"},
-    {text_field<&Entry::subdevice_id_str>, 6, &Entry::subdevice_id, "Sub-System-Id"},
-    {text_field<&Entry::column6>, 12},
-    {text_field<&Entry::column7>, 12},
-    {text_field<&Entry::firmware_image>, 12},
-    {text_field<&Entry::bios_image>, 12},
-    {text_field<&Entry::column10>, 12},
-    {text_field<&Entry::column11>, 12},
-});
-
-// The columns that follow, three for each allowed storage subsystem, and what the listing draws
-// after each. A value that must not be cut has a second field.
-struct SubsystemColumn {
-    std::span<char> (*field)(periphery_info_entry&);
-    int width;
-    const char* border;
-    std::span<char> (*whole_field)(periphery_info_entry&) = nullptr;
-};
-
-constexpr auto subsystem_columns = std::to_array<SubsystemColumn>({
-    {text_field<&periphery_info_entry::vendor>, 12, " |"},
-    {text_field<&periphery_info_entry::models>, 18, " |",
-     text_field<&periphery_info_entry::whole_models>},
-    {text_field<&periphery_info_entry::extra>, 12, ""},
-});
-
 // The record that a data line becomes, while its columns are read.
 struct DataLine {
-    std::int64_t number;                       // in the file, for refusals
-    Entry* entry;                              // what it becomes
+    std::int64_t number; // in the file, for refusals
+    Entry* entry;
     std::size_t column = 0;                    // the next one
     periphery_info_entry* subsystem = nullptr; // the last of the record's chain
 };
@@ -76,7 +31,7 @@ void store_identifier(const Column& column, char* value, const DataLine& line) {
     if (number < 0) {
         if (DebugLevel > 0 && PrintDebugOnScreen != 0) {
             std::fprintf(stderr, "\nError line %" PRId64 ": %s %s is not a valid hex value!\n",
-                         line.number, column.name, column.field(*line.entry).data());
+                         line.number, column.refused_name, column.field(*line.entry).data());
         }
         end_run(RET_FATAL_ERROR);
     }
@@ -120,9 +75,7 @@ std::int32_t store_subsystem_column(const char* value, DataLine& line) {
     return RET_OK;
 }
 
-std::int32_t store_column(std::string_view text, DataLine& line) {
-    std::string copy(text);
-    char* const value = cleanString(copy.data());
+std::int32_t store_column(char* value, DataLine& line) {
     std::int32_t result = RET_OK;
     if (line.column < columns.size()) {
         store_controller_column(value, line);
@@ -133,10 +86,10 @@ std::int32_t store_column(std::string_view text, DataLine& line) {
     return result;
 }
 
-// Makes a record of a line that is no comment. A last line of bars only, without a line end, has
-// no column and makes none.
-std::int32_t read_data_line(std::string_view text, std::int64_t number) {
-    if (text.find_first_not_of('|') == std::string_view::npos) {
+// Makes a record of a line that is no comment, unless it has no column.
+std::int32_t read_data_line(const char* text, std::int64_t number) {
+    std::vector<std::string> values = column_values(text);
+    if (values.empty()) {
         return RET_OK;
     }
     Entry* const entry = get_new_config_file_entry();
@@ -145,12 +98,8 @@ std::int32_t read_data_line(std::string_view text, std::int64_t number) {
         return RET_MEMALLOC_FAIL;
     }
     DataLine line{number, entry};
-    for (const std::string_view column : split(text, '|')) {
-        // Separators in a row count as one.
-        if (column.empty()) {
-            continue;
-        }
-        if (const std::int32_t result = store_column(column, line); result != RET_OK) {
+    for (std::string& value : values) {
+        if (const std::int32_t result = store_column(value.data(), line); result != RET_OK) {
             return result;
         }
     }
@@ -158,11 +107,21 @@ std::int32_t read_data_line(std::string_view text, std::int64_t number) {
     return RET_OK;
 }
 
+} // namespace
+
 bool is_comment(const char* line) {
     return std::strchr(line, '#') != nullptr || std::strstr(line, "--+--") != nullptr;
 }
 
-} // namespace
+std::vector<std::string> column_values(const char* line) {
+    std::vector<std::string> values;
+    for (const std::string_view column : split(line, '|')) {
+        if (!column.empty()) {
+            values.emplace_back(cleanString(std::string(column).data()));
+        }
+    }
+    return values;
+}
 
 std::int32_t Read_FC_Config_File(const char* path) {
     const TextFile file = open_text_file(path);

@@ -11,9 +11,8 @@ template <class Identified>
 bool same_ids(const Identified& identified, const hba_attributes_entry& port, Ids ids) {
     return std::cmp_equal(identified.vendor_id, port.vendor_spec_id_val) &&
            std::cmp_equal(identified.device_id, port.device_id_val) &&
-           (ids == Ids::two ||
-            (std::cmp_equal(identified.subvendor_id, port.subvendor_id_val) &&
-             std::cmp_equal(identified.subdevice_id, port.subdevice_id_val)));
+           (ids == Ids::two || (std::cmp_equal(identified.subvendor_id, port.subvendor_id_val) &&
+                                std::cmp_equal(identified.subdevice_id, port.subdevice_id_val)));
 }
 
 } // namespace

@@ -12,8 +12,6 @@
 #include <cstdint>
 #include <cstring>
 #include <string>
-#include <string_view>
-#include <sys/stat.h>
 
 namespace {
 
@@ -26,31 +24,6 @@ struct ImageKind {
 constexpr ImageKind firmware = {"firmware", "Firmware"};
 constexpr ImageKind bios = {"BIOS", "BIOS"};
 
-bool exists(const std::string& path) {
-    struct stat status {};
-    return path.size() < path_capacity && stat(path.c_str(), &status) == 0;
-}
-
-// Whether a model can be the name of a directory: text from a report must not lead
-// out of the firmware directory.
-bool names_directory(std::string_view model) {
-    return model.find('/') == std::string_view::npos && model != "." && model != "..";
-}
-
-// The directory of the port's images: the model's own or the common one.
-std::string image_directory(const hba_info& port) {
-    std::string directory = std::string(pHBAFirmwarePath) + port.model;
-    if (!names_directory(port.model) || !exists(directory)) {
-        message(1, "\t\tFirmware directory is not available: %s\n\n", directory.c_str());
-        directory = pHBAFirmwarePath;
-    }
-    message(1, "\tFirmware path: %s\n", directory.c_str());
-    if (directory != pHBAFirmwarePath) {
-        directory += '/';
-    }
-    return directory;
-}
-
 // Makes sure that an image is there before anything is written.
 std::int32_t look_for_image(const ImageKind& kind, const std::string& directory,
                             const char* pattern) {
@@ -60,7 +33,7 @@ std::int32_t look_for_image(const ImageKind& kind, const std::string& directory,
         message(1, "\t\tFound BIOS- or firmware-image: %s '%s'\n", image, pattern);
         return RET_OK;
     }
-    if (!exists(directory)) {
+    if (!path_exists(directory)) {
         message(1, "Error: Firmware directory is not available: %s\n\n", directory.c_str());
     } else {
         message(1, "\tNo BIOS- or firmware-image was found in %s!\n", pattern);
@@ -106,7 +79,7 @@ std::int32_t flash_image(const ImageKind& kind, const hba_info& flash_port,
 }
 
 std::int32_t flash_adapter(const hba_info& port, const fc_config_file_entry& record) {
-    if (!exists(pHBAFirmwarePath)) {
+    if (!path_exists(pHBAFirmwarePath)) {
         message(1, "\t\tFirmware directory is not available: %s\n\n", pHBAFirmwarePath);
         return RET_FW_NOT_AVAILABLE;
     }

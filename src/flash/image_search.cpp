@@ -1,14 +1,13 @@
 #include "flash/image_search.h"
 
+#include "run/base/diagnostics.h"
 #include "run/base/return_codes.h"
 #include "run/base/text.h"
 
 #include <cstddef>
-#include <cstring>
 #include <dirent.h>
 #include <memory>
-#include <span>
-#include <string_view>
+#include <sys/stat.h>
 
 namespace {
 
@@ -28,25 +27,53 @@ bool matches(std::string_view name, std::string_view pattern) {
     return dot != std::string_view::npos && name.substr(dot).starts_with(pattern.substr(1));
 }
 
+// Whether a model can be the name of a directory: text from a report must not lead
+// out of the firmware directory.
+bool names_directory(std::string_view model) {
+    return model.find('/') == std::string_view::npos && model != "." && model != "..";
+}
+
 } // namespace
+
+bool path_exists(const std::string& path) {
+    struct stat status {};
+    return path.size() < path_capacity && stat(path.c_str(), &status) == 0;
+}
+
+std::string image_directory(const hba_info& port) {
+    std::string directory = std::string(pHBAFirmwarePath) + port.model;
+    if (!names_directory(port.model) || !path_exists(directory)) {
+        message(1, "\t\tFirmware directory is not available: %s\n\n", directory.c_str());
+        directory = pHBAFirmwarePath;
+    }
+    message(1, "\tFirmware path: %s\n", directory.c_str());
+    if (directory != pHBAFirmwarePath) {
+        directory += '/';
+    }
+    return directory;
+}
+
+std::vector<std::string> matching_images(const std::string& directory, std::string_view pattern) {
+    std::vector<std::string> images;
+    const Directory entries(pattern.empty() ? nullptr : opendir(directory.c_str()));
+    if (entries == nullptr) {
+        return images;
+    }
+    while (const dirent* const entry = readdir(entries.get())) {
+        const std::string_view name = entry->d_name;
+        if (directory.size() + name.size() < path_capacity && matches(name, pattern)) {
+            images.push_back(directory + entry->d_name);
+        }
+    }
+    return images;
+}
 
 std::int32_t FindFlashImage(const char* directory, char (&result)[path_capacity],
                             const char* pattern) {
-    if (*pattern == '\0') {
+    const std::vector<std::string> images = matching_images(directory, pattern);
+    if (images.empty()) {
         return RET_FW_NOT_AVAILABLE;
     }
-    const Directory entries(opendir(directory));
-    if (entries == nullptr) {
-        return RET_FW_NOT_AVAILABLE;
-    }
-    const std::size_t length = std::strlen(directory);
-    while (const dirent* const entry = readdir(entries.get())) {
-        const std::string_view name = entry->d_name;
-        if (length + name.size() < path_capacity && matches(name, pattern)) {
-            copy_text(result, directory);
-            copy_text(std::span(result).subspan(length), name);
-            return RET_OK;
-        }
-    }
-    return RET_FW_NOT_AVAILABLE;
+    copy_text(result, images.front());
+    return RET_OK;
 }

@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <cstring>
 
-// What one port's attributes report says. Text fields keep the reported text,
-// cut to their capacity; a label that never appeared leaves its field empty.
+// The values of one port's attributes report. Text fields keep the reported text, cut to their
+// capacity; a label that never appeared leaves its field empty.
 struct hba_attributes_entry {
     char host_name[64];
     char manufacturer[64];
@@ -61,8 +61,8 @@ struct hba_attributes_entry {
     std::uint32_t subdevice_id_val;
 };
 
-// What one port's target-mapping report says of the storage behind the port.
-// With several LUNs each field holds the value of the last one.
+// The storage that one port's target-mapping report names. With several LUNs each field holds the
+// value of the last one.
 struct target_mapping_entry {
     char fcp_lun[24];
     char scsi_os_lun[5];
@@ -87,7 +87,7 @@ struct hba_info {
     char mfg[64];
     char serial_no[24];      // the adapter; "n/a..." when it has none
     char port_number[6];     // on the adapter, decimal
-    std::int32_t port_index; // no report tells it: 0
+    std::int32_t port_index; // in no report: 0
     char mode[16];
     char pci_bus_number[4];
     char pci_function[4]; // decimal
@@ -102,6 +102,8 @@ struct hba_info {
 
     std::uint8_t flash_done; // the flash engine has handled this port
     std::uint8_t check_done; // the consistency check has handled this port
+
+    std::uint8_t mapping_reported; // its target-mapping report was read and has its title
 };
 
 // Every port, null-terminated; null as long as no port was found.

@@ -13,7 +13,7 @@
 
 namespace {
 
-// What is read of each port; `which` tells a terminal the port's place in the list.
+// What is read of each port; `which` is the port's place in the list, shown at a terminal.
 using Stage = std::int32_t (*)(hba_info& port, const std::string& which);
 
 std::int32_t for_each_port(Stage stage) {

@@ -5,6 +5,7 @@
 #include "run/base/settings.h"
 #include "run/base/shell_command.h"
 #include "run/base/text.h"
+#include "run/base/text_file.h"
 
 #include <cstring>
 #include <utility>
@@ -37,16 +38,21 @@ std::int32_t make_report(const char* lead, std::initializer_list<std::string_vie
     return status;
 }
 
-TextFile open_report(const ReportFile& file) {
-    if (!file.usable || file.path.size() >= path_capacity) {
-        return nullptr;
+std::int32_t read_report(const ReportFile& file,
+                         const std::function<std::int32_t(char* line)>& read_one) {
+    const bool usable = file.usable && file.path.size() < path_capacity;
+    const TextFile report = usable ? open_text_file(file.path.c_str()) : TextFile();
+    LineBuffer line;
+    while (report != nullptr && read_line(report, line)) {
+        if (const std::int32_t result = read_one(line); result != RET_OK) {
+            return result;
+        }
     }
-    return open_text_file(file.path.c_str());
-}
-
-std::int32_t refuse_report(const ReportFile& file) {
-    message(1, "Error: Could not open file %s\n", file.path.c_str());
-    return report_not_opened;
+    if (report == nullptr || read_failed(report)) {
+        message(1, "Error: Could not open file %s\n", file.path.c_str());
+        return report_not_opened;
+    }
+    return RET_OK;
 }
 
 char* line_value(char* line) {

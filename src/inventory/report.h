@@ -5,9 +5,9 @@
 #include "inventory/hba_info.h"
 #include "run/base/return_codes.h"
 #include "run/base/text.h"
-#include "run/base/text_file.h"
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <span>
 #include <string>
@@ -34,29 +34,11 @@ ReportFile report_file(const hba_info& port, const char* name);
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
                          ReportFile& file, const char* tail, std::string shown);
 
-// Opens a report. Returns null when it can't be opened or is not usable.
-TextFile open_report(const ReportFile& file);
-
-// Reports that a file can't be opened, and returns report_not_opened.
-std::int32_t refuse_report(const ReportFile& file);
-
-// Opens a report and hands each line to `read_one` up to the first result other than RET_OK,
-// which it returns. Returns report_not_opened when the file can't be opened or can't be read to
-// its end; the lines read until then have been handed over.
-template <class ReadOne>
-std::int32_t read_report(const ReportFile& file, ReadOne read_one) {
-    const TextFile report = open_report(file);
-    if (report == nullptr) {
-        return refuse_report(file);
-    }
-    LineBuffer line;
-    while (read_line(report, line)) {
-        if (const std::int32_t result = read_one(line); result != RET_OK) {
-            return result;
-        }
-    }
-    return read_failed(report) ? refuse_report(file) : RET_OK;
-}
+// Opens a report and hands each line to `read_one` up to the first result other than RET_OK, which
+// it returns. Returns report_not_opened, with a message, when the file is not usable, can't be
+// opened or can't be read to its end; the lines read until then have been handed over.
+std::int32_t read_report(const ReportFile& file,
+                         const std::function<std::int32_t(char* line)>& read_one);
 
 // The first of a report's labels, rows with a `text`, that `line` begins with, or null. Comparing
 // the first characters before the whole saves a run with many ports a tenth of its instructions.

@@ -13,6 +13,7 @@ namespace {
 
 using Entry = target_mapping_entry;
 
+constexpr const char* report_name = "target_mapping.out";
 constexpr std::string_view title = "Target Mapping for";
 
 // A row of the report's table: where the value of such a line goes.
@@ -53,6 +54,7 @@ std::int32_t read_mapping_line(char* line, bool below_title, hba_info& port) {
         }
     }
     if (begins_with(line, title)) {
+        port.mapping_reported = 1;
         message(6, "\n\t\t\t%s %s\n", title.data(), port.port_wwn);
         return RET_OK;
     }
@@ -69,7 +71,7 @@ std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
     if (!is_fcoe_or_fc(port)) {
         return RET_OK;
     }
-    ReportFile file = report_file(port, "target_mapping.out");
+    ReportFile file = report_file(port, report_name);
     const std::int32_t status = make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, file,
                                             "\n", which + ": target mapping");
     if (status == 0) {
@@ -90,4 +92,21 @@ std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
         title_left -= below_title ? 0 : 1;
         return read_mapping_line(line, below_title, port);
     });
+}
+
+std::vector<target_mapping_entry> reported_luns(const hba_info& port) {
+    std::vector<target_mapping_entry> luns(1);
+    read_report(report_file(port, report_name), [&](char* line) {
+        const Label* const label = find_label(labels, line);
+        const char* const value = label == nullptr ? nullptr : line_value(line);
+        if (value != nullptr) {
+            // A label that comes again belongs to the next LUN.
+            if (label->field(luns.back())[0] != '\0') {
+                luns.emplace_back();
+            }
+            copy_text(label->field(luns.back()), value);
+        }
+        return RET_OK;
+    });
+    return luns;
 }

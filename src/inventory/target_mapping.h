@@ -5,9 +5,13 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
-// Has the CLI report a Fibre Channel or FCoE port and reads that into
-// `target_mapping`, which stays null when the port sees no storage or has no
-// serial number; other ports are passed over. Returns RET_OK, report_not_opened
-// or RET_MEMALLOC_FAIL.
+// Has the CLI report a Fibre Channel or FCoE port and reads that into `target_mapping`, which stays
+// null when the port sees no storage or has no serial number; other ports are passed over. Returns
+// RET_OK, report_not_opened or RET_MEMALLOC_FAIL.
 std::int32_t read_target_mapping(hba_info& port, const std::string& which);
+
+// Every LUN of the port's report, in the order of the report, which is read again. The last one
+// to name a value is the one that `target_mapping` has it from.
+std::vector<target_mapping_entry> reported_luns(const hba_info& port);

@@ -10,7 +10,7 @@
 // The fixed path of the CLI; it is never looked for elsewhere.
 extern const char* const hbacmd_path;
 
-// Whether the CLI can be run: it is installed (errno tells why not) or simulated.
+// Whether the CLI can be run: it is installed (else errno has the reason) or simulated.
 bool hbacmd_available();
 
 // Waits while another run uses the CLI, and keeps the others waiting until the process ends: two

@@ -15,9 +15,6 @@
 
 namespace {
 
-// The longest value of a selection option.
-constexpr std::size_t value_length_max = 1023;
-
 // What the words up to now have set.
 struct Parse {
     const char* program_name;
@@ -45,9 +42,9 @@ const char* read_value(const Option& option, Parse& parse) {
 
 std::string_view read_selection_value(const Option& option, const char* word, Parse& parse) {
     const std::string_view value = read_value(option, parse);
-    if (value.size() > value_length_max) {
+    if (value.size() > selection_length_max) {
         message(1, "\n\nValue of option '%s' is too long (at most %d characters)!\n\n", word,
-                static_cast<int>(value_length_max));
+                static_cast<int>(selection_length_max));
         end_run(RET_BAD_CALL);
     }
     return value;
@@ -132,10 +129,11 @@ void check_combinations(const std::array<bool, selection_kinds>& given) {
                        given[kind_subdevice_id];
     for (const auto& [kind, name] : {std::pair{kind_vendor_name, "-vn"}, {kind_model, "-mod"}}) {
         if (by_id && given[kind]) {
-            message(1,
-                    "\n\nCombining options \"-vid\", \"-subvid\", \"-dev\", \"-subdev\" together with "
-                    "option \"%s\" is not supported.\t!\n",
-                    name);
+            message(
+                1,
+                "\n\nCombining options \"-vid\", \"-subvid\", \"-dev\", \"-subdev\" together with "
+                "option \"%s\" is not supported.\t!\n",
+                name);
             end_run(RET_BAD_CALL);
         }
     }

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The version, field by field, as the build tells it.
+// The version, field by field, from the build.
 constexpr int version[] = {CNATOOL_VERSION};
 static_assert(std::size(version) == 4);
 

@@ -68,9 +68,9 @@ void read_levels(Words words) {
         if (is_silent_word(words[i])) {
             silence();
         } else if (is_debug_word(words[i])) {
-            DebugLevel = read_level(
-                words[i], next,
-                "Please enter a valid debug-level (-d <debug-level>; min 0 - max 6)!\n");
+            DebugLevel =
+                read_level(words[i], next,
+                           "Please enter a valid debug-level (-d <debug-level>; min 0 - max 6)!\n");
             debug_given = true;
             ++i;
         } else if (is_verbose_word(words[i])) {

@@ -9,5 +9,5 @@ void list_conditions();
 // The FCoE ports with the storage that they see.
 void list_controllers();
 
-// The result flags; `lead` stands before the first line.
+// The result flags; `lead` is written before the first line.
 void list_flags(const char* lead, const global_ctrl_flags& flags);

@@ -1,6 +1,5 @@
-// Running commands through the shell: the one place that starts a process. Most values of a
-// command line come from reports that another program wrote, so each goes through shell_word
-// first.
+// Running commands through the shell: the one place that starts a process. Most values of a command
+// line come from reports that another program wrote, so each goes through shell_word first.
 #pragma once
 
 #include "run/base/output_file.h"

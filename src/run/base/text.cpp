@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 namespace {
 
@@ -14,6 +15,26 @@ void cut_trailing(char* text, std::string_view cut) {
     while (length > 0 && cut.find(text[length - 1]) != std::string_view::npos) {
         text[--length] = '\0';
     }
+}
+
+// Sets errno to ERANGE for a value above 64 bits.
+std::int32_t read_number(char* text, int base) {
+    cut_trailing(text, "\n ");
+    if (*text == '\0') {
+        return -1;
+    }
+    const char* digits = text + std::strspn(text, " ");
+    const bool negative = *digits == '-';
+    if (negative) {
+        ++digits;
+    }
+    char* end = nullptr;
+    unsigned long value = std::strtoul(digits, &end, base);
+    if (*end != '\0') {
+        value = ~0UL;
+    }
+    const auto low = static_cast<std::uint32_t>(value);
+    return static_cast<std::int32_t>(negative ? 0U - low : low);
 }
 
 } // namespace
@@ -31,27 +52,18 @@ std::vector<std::string_view> split(std::string_view list, char separator) {
 }
 
 std::int32_t string2int(char* text, int base) {
-    cut_trailing(text, "\n ");
-    if (*text == '\0') {
-        return -1;
-    }
-    const char* digits = text + std::strspn(text, " ");
-    const bool negative = *digits == '-';
-    if (negative) {
-        ++digits;
-    }
-    char* end = nullptr;
     errno = 0;
-    unsigned long value = std::strtoul(digits, &end, base);
+    const std::int32_t number = read_number(text, base);
     if (errno == ERANGE) {
         std::perror("strtoul");
         end_run(1);
     }
-    if (*end != '\0') {
-        value = ~0UL;
-    }
-    const auto low = static_cast<std::uint32_t>(value);
-    return static_cast<std::int32_t>(negative ? 0U - low : low);
+    return number;
+}
+
+bool is_accepted_number(std::string_view text, int base) {
+    errno = 0;
+    return read_number(std::string(text).data(), base) >= 0 && errno != ERANGE;
 }
 
 char* cleanString(char* text) {

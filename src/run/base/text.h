@@ -17,8 +17,7 @@ inline void copy_text(std::span<char> field, std::string_view text) {
     field[length] = '\0';
 }
 
-// The field `Member` of a record with its capacity, for tables that say where
-// a value goes.
+// The field `Member` of a record with its capacity, for tables that say where a value goes.
 template <auto Member, class Record>
 std::span<char> text_field(Record& record) {
     return record.*Member;
@@ -37,12 +36,14 @@ inline bool is_blank(const char* text) {
 // there are separators.
 std::vector<std::string_view> split(std::string_view list, char separator);
 
-// Reads `text` as a number in `base` (10 or 16); trailing blanks and newlines
-// are cut off in place. Returns the value cut to 32 bits, negated after a
-// leading minus sign; -1 for an empty text and all ones before the negation for
-// one that is no number. Callers refuse every negative result. A value above 64
-// bits ends the run with 1 and the library's message on standard error.
+// Reads `text` as a number in `base` (10 or 16); trailing blanks and newlines are cut off in place.
+// Returns the value cut to 32 bits, negated after a leading minus sign; -1 for an empty text and
+// all ones before the negation for one that is no number. Callers refuse every negative result. A
+// value above 64 bits ends the run with 1 and the library's message on standard error.
 std::int32_t string2int(char* text, int base);
+
+// Whether string2int takes the text as a number that its callers accept.
+bool is_accepted_number(std::string_view text, int base);
 
 // Turns quotes, tabs and newlines of `text` into blanks and cuts trailing
 // blanks, in place. Returns the first character that is not a blank.

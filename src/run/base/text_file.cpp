@@ -35,7 +35,6 @@ TextFile create_private_file(const char* path) {
     struct stat status {};
     TextFile file = open_regular_file(path, O_WRONLY | O_CREAT | O_NOFOLLOW, 0600, status);
     const bool own = file != nullptr && status.st_nlink == 1 && status.st_uid == geteuid() &&
-                     fchmod(fileno(file.get()), 0600) == 0 &&
-                     ftruncate(fileno(file.get()), 0) == 0;
+                     fchmod(fileno(file.get()), 0600) == 0 && ftruncate(fileno(file.get()), 0) == 0;
     return own ? std::move(file) : nullptr;
 }
