@@ -9,9 +9,11 @@ if(CNATOOL_STATIC AND NOT CNATOOL_SANITIZE)
   if(CNATOOL_LINKS_STATICALLY)
     # Without the property CMake adds neither -pie nor -no-pie, which -static-pie does
     # not go with.
-    set_property(TARGET cnatool PROPERTY POSITION_INDEPENDENT_CODE)
-    target_compile_options(cnatool PRIVATE -fPIE)
-    target_link_options(cnatool PRIVATE -static-pie)
+    foreach(program cnatool lscna)
+      set_property(TARGET ${program} PROPERTY POSITION_INDEPENDENT_CODE)
+      target_compile_options(${program} PRIVATE -fPIE)
+      target_link_options(${program} PRIVATE -static-pie)
+    endforeach()
   else()
     message(WARNING "This toolchain can't link a program statically: cnatool will need the C and C++ "
       "libraries of this machine, and can't be packaged. Debian has what lacks in libc6-dev, Fedora in "

@@ -16,6 +16,10 @@
 // The inventory's own result for a report that can't be opened.
 constexpr std::int32_t report_not_opened = 51;
 
+// The last word of the names of a port's two reports.
+constexpr const char* attributes_report = "hba_attributes.out";
+constexpr const char* mapping_report = "target_mapping.out";
+
 // A report's file in the working directory.
 struct ReportFile {
     std::string path;

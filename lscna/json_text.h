@@ -1,0 +1,13 @@
+// Texts as JSON.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// A string; null for an empty text. Bytes that are no UTF-8 are replaced, so that any reader takes
+// it.
+std::string json_text(std::string_view text);
+
+// A list of strings on one line.
+std::string json_list(const std::vector<std::string>& texts);

@@ -1,0 +1,228 @@
+#include "lscna/listing.h"
+
+#include "lscna/json_text.h"
+#include "run/base/settings.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <iterator>
+
+namespace {
+
+// A column: its value as text (empty: unknown, or there is none) and, unless that is a string of
+// the same text, as JSON.
+struct Column {
+    const char* title; // empty: the screen does not show it
+    bool right;
+    const char* key;
+    std::string (*text)(const SurveyedPort&);
+    std::string (*json)(const SurveyedPort&);
+    const char* meaning;
+};
+
+constexpr bool left = false;
+constexpr bool right = true;
+
+template <auto Member>
+std::string field(const SurveyedPort& surveyed) {
+    return surveyed.port->*Member;
+}
+
+std::string pci_id_of(const SurveyedPort& surveyed) {
+    return pci_id(*surveyed.port);
+}
+
+std::string firmware_of(const SurveyedPort& surveyed) {
+    const hba_attributes_entry* const attributes = surveyed.port->attributes;
+    if (attributes == nullptr) {
+        return "";
+    }
+    return attributes->operational_fw[0] != '\0' ? attributes->operational_fw
+                                                 : attributes->fw_version;
+}
+
+std::string storage_of(const SurveyedPort& surveyed) {
+    const target_mapping_entry* const storage = surveyed.port->target_mapping;
+    return storage == nullptr ? "" : std::string(storage->vendor_id) + " " + storage->product_id;
+}
+
+std::string json_storage(const SurveyedPort& surveyed) {
+    const target_mapping_entry* const storage = surveyed.port->target_mapping;
+    return storage == nullptr ? "null"
+                              : "{ \"vendor\": " + json_text(storage->vendor_id) +
+                                    ", \"product\": " + json_text(storage->product_id) +
+                                    ", \"version\": " + json_text(storage->product_version) + " }";
+}
+
+std::string number_text(int number) {
+    return number == 0 ? "" : std::to_string(number);
+}
+
+std::string json_number(int number) {
+    return number == 0 ? "null" : std::to_string(number);
+}
+
+std::string record_of(const SurveyedPort& surveyed) {
+    return number_text(surveyed.record);
+}
+
+std::string json_record(const SurveyedPort& surveyed) {
+    return json_number(surveyed.record);
+}
+
+std::string verdict_of(const SurveyedPort& surveyed) {
+    constexpr std::array names = {"",           "allowed",    "not allowed",
+                                  "no storage", "not judged", "not known"};
+    return names.at(static_cast<std::size_t>(surveyed.verdict));
+}
+
+std::string reason_of(const SurveyedPort& surveyed) {
+    return surveyed.reason;
+}
+
+constexpr Column columns[] = {
+    {"ADAPTER", left, "adapter", field<&hba_info::serial_no>, nullptr, "serial number"},
+    {"FN", right, "fn", field<&hba_info::pci_function>, nullptr, "PCI function"},
+    {"PORT", right, "port", field<&hba_info::port_number>, nullptr, "port number on the adapter"},
+    {"TYPE", left, "type", field<&hba_info::port_type>, nullptr, "port type"},
+    {"MODEL", left, "model", field<&hba_info::model>, nullptr, "model of the adapter"},
+    {"PCI-ID", left, "pci-id", pci_id_of, nullptr, "the four ids, as -pci-id takes them"},
+    {"FIRMWARE", left, "firmware", firmware_of, nullptr, "version of the firmware"},
+    {"STORAGE", left, "storage", storage_of, json_storage, "vendor and product that it sees"},
+    {"RECORD", right, "record", record_of, json_record, "record of the conditions file for it"},
+    {"VERDICT", left, "verdict", verdict_of, nullptr, "what a check says of an FCoE port"},
+    {"", left, "reason", reason_of, nullptr, ""},
+};
+
+// A text for a terminal, which control characters could change.
+std::string shown(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
+    return text.empty() ? "-" : text;
+}
+
+std::string padded(const std::string& text, std::size_t width, bool to_the_right) {
+    const std::string blanks(width - text.size(), ' ');
+    return to_the_right ? blanks + text : text + blanks;
+}
+
+void print_table(const std::vector<SurveyedPort>& ports) {
+    std::vector<std::string> lines(ports.size() + 1);
+    for (const Column& column : columns) {
+        if (*column.title == '\0') {
+            continue;
+        }
+        std::vector<std::string> cells = {column.title};
+        std::size_t width = cells.front().size();
+        for (const SurveyedPort& port : ports) {
+            cells.push_back(shown(column.text(port)));
+            width = std::max(width, cells.back().size());
+        }
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            lines[i] += (lines[i].empty() ? "" : "  ") + padded(cells[i], width, column.right);
+        }
+    }
+    for (std::string& line : lines) {
+        line.erase(line.find_last_not_of(' ') + 1);
+        std::printf("%s\n", line.c_str());
+    }
+}
+
+// An image's path below the directory of the images.
+std::string below_directory(const std::string& path) {
+    const std::string_view directory = pHBAFirmwarePath;
+    return path.starts_with(directory) ? path.substr(directory.size()) : path;
+}
+
+void print_flashes(const std::vector<SurveyedFlash>& flashes) {
+    const char* title = "\nA flash would write:\n";
+    for (const SurveyedFlash& flash : flashes) {
+        // A flash begins only when it has found all of the images.
+        if (!flash.firmware || flash.firmware->files.empty() ||
+            (flash.bios && flash.bios->files.empty())) {
+            continue;
+        }
+        const std::string bios =
+            flash.bios ? ", then BIOS " + below_directory(flash.bios->files.front()) : "";
+        std::printf("%s  %s, function %s, record %d: %s%s\n", title,
+                    shown(flash.port->serial_no).c_str(), shown(flash.port->pci_function).c_str(),
+                    flash.record, shown(below_directory(flash.firmware->files.front())).c_str(),
+                    bios.empty() ? "" : shown(bios).c_str());
+        title = "";
+    }
+}
+
+std::string json_image(const std::optional<SurveyedImage>& image) {
+    return image ? "{ \"pattern\": " + json_text(image->pattern) +
+                       ", \"files\": " + json_list(image->files) + " }"
+                 : "null";
+}
+
+// Prints the items of a list, a line each.
+template <class Item>
+void print_json_list(const char* key, const std::vector<Item>& items,
+                     std::string (*json)(const Item&), const char* end) {
+    std::printf("  \"%s\": [", key);
+    const char* separator = "\n";
+    for (const Item& item : items) {
+        std::printf("%s    %s", separator, json(item).c_str());
+        separator = ",\n";
+    }
+    std::printf("%s]%s\n", items.empty() ? "" : "\n  ", end);
+}
+
+std::string json_port(const SurveyedPort& port) {
+    std::string json;
+    for (const Column& column : columns) {
+        json += (json.empty() ? "{ \"" : ", \"") + std::string(column.key) + "\": " +
+                (column.json == nullptr ? json_text(column.text(port)) : column.json(port));
+    }
+    return json + " }";
+}
+
+std::string json_flash(const SurveyedFlash& flash) {
+    return "{ \"adapter\": " + json_text(flash.port->serial_no) +
+           ", \"fn\": " + json_text(flash.port->pci_function) +
+           ", \"record\": " + json_number(flash.record) +
+           ", \"firmware\": " + json_image(flash.firmware) +
+           ", \"bios\": " + json_image(flash.bios) + " }";
+}
+
+std::string json_note(const std::string& note) {
+    return json_text(note);
+}
+
+} // namespace
+
+std::string describe_columns() {
+    std::string text;
+    for (const Column& column : columns) {
+        if (*column.title != '\0') {
+            text += "  " + padded(column.title, 10, left) + column.meaning + "\n";
+        }
+    }
+    return text;
+}
+
+void print_screen(const Survey& survey, int fibre_channel_ports) {
+    print_table(survey.ports);
+    if (fibre_channel_ports > 0) {
+        std::printf("%d Fibre Channel port%s left alone.\n", fibre_channel_ports,
+                    fibre_channel_ports == 1 ? " is" : "s are");
+    }
+    print_flashes(survey.flashes);
+    const char* title = "\nTo look at:\n";
+    for (const std::string& note : survey.notes) {
+        std::printf("%s  %s\n", title, shown(note).c_str());
+        title = "";
+    }
+}
+
+void print_json(const Survey& survey) {
+    std::printf("{\n");
+    print_json_list("ports", survey.ports, json_port, ",");
+    print_json_list("flashes", survey.flashes, json_flash, ",");
+    print_json_list("notes", survey.notes, json_note, "");
+    std::printf("}\n");
+}

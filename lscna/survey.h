@@ -1,0 +1,56 @@
+// What lscna finds out: each port's record and verdict, what a flash would write, and what is to be
+// looked at.
+#pragma once
+
+#include "conditions/conditions.h"
+#include "inventory/hba_info.h"
+#include "run/base/selection.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+// What a check says of an FCoE port; of any other port it says nothing.
+enum class Verdict : std::uint8_t { none, allowed, not_allowed, no_storage, not_judged, not_known };
+
+struct SurveyedPort {
+    const hba_info* port;
+    int record = 0; // the first with the port's four ids, manufacturer and model; 0: there is none
+    Verdict verdict = Verdict::none;
+    std::string reason{}; // of the verdict; empty: it needs none
+};
+
+// An image name of a record, and the paths of the files that match it. A flash takes the first.
+struct SurveyedImage {
+    const char* kind;
+    std::string pattern;
+    std::vector<std::string> files;
+};
+
+// A flash port.
+struct SurveyedFlash {
+    const hba_info* port;
+    int record = 0; // the first with the port's four ids; 0: there is none, nothing is flashed
+    std::optional<SurveyedImage> firmware{};
+    std::optional<SurveyedImage> bios{};
+};
+
+struct Survey {
+    std::vector<SurveyedPort> ports; // in the order in which a check walks them
+    std::vector<SurveyedFlash> flashes;
+    std::vector<std::string> notes; // what is to be looked at, a line each
+};
+
+// The port's four PCI ids as -pci-id takes them; empty when one of them is not known.
+std::string pci_id(const hba_info& port);
+
+// What ports have in common that are not known, or not judged; empty when there is no such cause.
+struct CommonCauses {
+    std::string inventory_ended;
+    std::string conditions_unusable;
+};
+
+// Surveys the ports that the inventory has found, ordered and paired. `selection` (null: every
+// port) names the ports to list. The common causes become reasons, but not notes of each port.
+Survey survey_ports(const option_input* selection, const CommonCauses& causes);
