@@ -1,4 +1,4 @@
-// Mistakes in a conditions file that its reader takes without a word, or ends the run at.
+// Mistakes in a conditions file that its reader accepts in silence, or ends the run at.
 #pragma once
 
 #include <string>
@@ -6,8 +6,8 @@
 
 struct ConditionsNotes {
     std::vector<std::string> texts; // "FILE:LINE: text", in the order of the file
-    bool usable = true; // false: every check and flash ends before the adapters are read
+    bool usable = true;             // false: cnatool refuses the file
 };
 
-// Looks through the file. It need not exist.
+// Looks through the file at `path`; one that can't be opened is a mistake, too.
 ConditionsNotes examine_conditions(const char* path);

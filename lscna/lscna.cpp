@@ -7,6 +7,7 @@
 #include "inventory/report.h"
 #include "inventory/vendor_cli.h"
 #include "lscna/conditions_notes.h"
+#include "lscna/format.h"
 #include "lscna/listing.h"
 #include "lscna/survey.h"
 #include "run/base/diagnostics.h"
@@ -23,6 +24,7 @@
 #include <cstring>
 #include <getopt.h>
 #include <new>
+#include <optional>
 #include <string>
 
 namespace {
@@ -42,7 +44,7 @@ constexpr const char* usage =
     "\n"
     "Columns:\n";
 
-constexpr option long_options[] = {
+constexpr option options[] = {
     {"simulate", no_argument, nullptr, 's'},
     {"conpath", required_argument, nullptr, 'C'},
     {"pci-id", required_argument, nullptr, 'p'},
@@ -56,72 +58,60 @@ constexpr option long_options[] = {
 struct Call {
     const char* list = nullptr; // the value of --pci-id; null: it is not given
     bool json = false;
-    bool ended = false; // there is nothing more to do than to end with `status`
-    int status = status_all_well;
 };
 
-Call refuse(const std::string& reason) {
-    std::fprintf(stderr, "lscna: %s\n", reason.c_str());
-    return {.ended = true, .status = status_no_listing};
+// Reports why there is no listing. Returns the status.
+int refuse(const char* reason) {
+    std::fprintf(stderr, "lscna: %s\n", reason);
+    return status_no_listing;
 }
 
-void read_option(int option, Call& call) {
-    switch (option) {
-    case 's':
-        active_option_simulate = 1;
-        break;
-    case 'C':
-        if (*optarg == '\0') {
-            call = refuse("--conpath: the directory is empty");
-            break;
-        }
-        ending_reason = "--conpath: the directory's name is too long";
-        set_directories(optarg);
-        break;
-    case 'p':
-        call.list = optarg;
-        break;
-    case 'J':
-        call.json = true;
-        break;
-    case 'h':
-        std::printf("%s%s", usage, describe_columns().c_str());
-        call.ended = true;
-        break;
-    case 'V':
-        std::printf("lscna %s\n", LSCNA_VERSION);
-        call.ended = true;
-        break;
-    default: // getopt_long has said what is wrong
-        call = {.ended = true, .status = status_no_listing};
-    }
-}
-
-Call read_call(int argc, char** argv) {
-    Call call;
+// Reads the command line. Returns the status to end with at once, if any.
+std::optional<int> read_call(int argc, char** argv, Call& call) {
     static char name[] = "lscna"; // what getopt_long puts in front of its errors
     argv[0] = name;
     optind = 0; // a process may make several runs
-    for (int option = 0; !call.ended && option != -1;) {
-        option = getopt_long(argc, argv, "sC:p:JhV", long_options, nullptr);
-        if (option != -1) {
-            read_option(option, call);
+    for (int option = 0; (option = getopt_long(argc, argv, "sC:p:JhV", options, nullptr)) != -1;) {
+        switch (option) {
+        case 's':
+            active_option_simulate = 1;
+            break;
+        case 'C':
+            if (*optarg == '\0') {
+                return refuse("--conpath: the name of the directory is empty");
+            }
+            ending_reason = "--conpath: the name of the directory is too long";
+            set_directories(optarg);
+            break;
+        case 'p':
+            call.list = optarg;
+            break;
+        case 'J':
+            call.json = true;
+            break;
+        case 'h':
+            std::printf("%s%s", usage, describe_columns().c_str());
+            return status_all_well;
+        case 'V':
+            std::printf("lscna %s\n", LSCNA_VERSION);
+            return status_all_well;
+        default:
+            return status_no_listing;
         }
     }
-    if (!call.ended && optind < argc) {
-        return refuse(std::string("'") + argv[optind] + "' is no option");
+    if (optind < argc) {
+        return refuse(format("'%s' is no option", argv[optind]).c_str());
     }
-    return call;
+    return std::nullopt;
 }
 
 // Adds what the reader of the list passes over: groups after the first empty one.
-void look_at_list(std::string_view list, std::vector<std::string>& notes) {
-    const std::string groups = "," + std::string(list);
-    const std::size_t end = groups.find(",,");
-    const std::size_t unread = end == std::string::npos ? end : groups.find_first_not_of(',', end);
+void look_at_list(const char* list, std::vector<std::string>& notes) {
+    const std::string groups = format(",%s", list);
+    const std::size_t unread = groups.find_first_not_of(',', groups.find(",,"));
     if (unread != std::string::npos) {
-        notes.push_back("--pci-id: '" + groups.substr(unread) +
-                        "' after an empty group is not read: remove the empty group");
+        notes.push_back(format("--pci-id: '%s' is not read: remove the empty group before it",
+                               groups.c_str() + unread));
     }
 }
 
@@ -131,6 +121,11 @@ std::string read_conditions(std::vector<std::string>& notes) {
     notes.insert(notes.end(), found.texts.begin(), found.texts.end());
     if (found.usable && Read_FC_Config_File(pHBAConditionsPath) == RET_OK) {
         return "";
+    }
+    if (found.usable) {
+        notes.push_back(
+            format("%s: can't be read to its end: cnatool refuses it", pHBAConditionsPath));
+        release_config_entry_list();
     }
     return "the conditions file can't be used";
 }
@@ -178,7 +173,7 @@ int count_fibre_channel_ports() {
     return count;
 }
 
-bool well(const SurveyedPort& port) {
+bool is_well(const SurveyedPort& port) {
     return port.verdict == Verdict::none || port.verdict == Verdict::allowed ||
            port.verdict == Verdict::no_storage;
 }
@@ -187,6 +182,8 @@ int list_ports(const Call& call) {
     std::vector<std::string> notes;
     const option_input* selection = nullptr;
     if (call.list != nullptr) {
+        ending_reason =
+            "--pci-id: not a list of vendor:device[:subvendor:subdevice] in hexadecimal";
         selection = save_list_of_pci_ids(call.list);
         look_at_list(call.list, notes);
     }
@@ -195,7 +192,7 @@ int list_ports(const Call& call) {
     ending_reason = "a report holds a number of more than 64 bits";
     const std::int32_t result = Get_All_Hba_Info();
     if (p_hba_info_list == nullptr) {
-        return refuse(no_list_reason(result)).status;
+        return refuse(no_list_reason(result));
     }
     causes.inventory_ended = inventory_end(result);
     if (!causes.inventory_ended.empty()) {
@@ -211,7 +208,7 @@ int list_ports(const Call& call) {
     } else {
         print_screen(survey, fibre_channel_ports);
     }
-    return survey.notes.empty() && std::all_of(survey.ports.begin(), survey.ports.end(), well)
+    return survey.notes.empty() && std::all_of(survey.ports.begin(), survey.ports.end(), is_well)
                ? status_all_well
                : status_look;
 }
@@ -221,22 +218,20 @@ int list_ports(const Call& call) {
 int run_lscna(int argc, char** argv) {
     reset_inherited_state();
     set_levels(0, 0, 0);
+    terminal_lines_enabled = true;
     const std::string typed_program = argc > 0 ? argv[0] : "lscna";
     try {
-        const Call call = read_call(argc, argv);
-        if (call.ended) {
-            return call.status;
+        Call call;
+        if (const std::optional<int> status = read_call(argc, argv, call)) {
+            return *status;
         }
         if (call.list != nullptr && std::strlen(call.list) > selection_length_max) {
-            return refuse("--pci-id: the list is too long").status;
+            return refuse("--pci-id: the list is too long");
         }
-        terminal_lines_enabled = true;
-        ending_reason = "the directory of the files can't be used";
+        ending_reason = "the directory of the program can't be used";
         resolve_directories(typed_program.c_str());
-        ending_reason = "--pci-id: not a list of vendor:device[:subvendor:subdevice], hexadecimal "
-                        "and separated by commas";
         return list_ports(call);
     } catch (const std::bad_alloc&) {
-        return refuse("out of memory").status;
+        return refuse("out of memory");
     }
 }

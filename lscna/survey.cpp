@@ -5,15 +5,15 @@
 #include "conditions/match.h"
 #include "flash/image_search.h"
 #include "inventory/target_mapping.h"
-#include "run/base/settings.h"
+#include "lscna/format.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <cstring>
 #include <utility>
 
 namespace {
+
+using Record = fc_config_file_entry;
 
 // What is to be looked at, and the port that it is about.
 struct PortNote {
@@ -21,34 +21,7 @@ struct PortNote {
     std::string text;
 };
 
-std::string format_ids(std::uint32_t vendor, std::uint32_t device) {
-    std::array<char, 16> text{};
-    std::snprintf(text.data(), text.size(), "%04X:%04X", vendor, device);
-    return text.data();
-}
-
-std::string ids_of(const fc_config_file_entry& record) {
-    return format_ids(static_cast<std::uint32_t>(record.vendor_id),
-                      static_cast<std::uint32_t>(record.device_id)) +
-           ":" +
-           format_ids(static_cast<std::uint32_t>(record.subvendor_id),
-                      static_cast<std::uint32_t>(record.subdevice_id));
-}
-
-// "a, b and c"
-std::string join_list(const std::vector<std::string>& items) {
-    std::string list;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        list += (i == 0 ? "" : i + 1 < items.size() ? ", " : " and ") + items[i];
-    }
-    return list;
-}
-
-std::string numbered(int record) {
-    return "record " + std::to_string(record);
-}
-
-const fc_config_file_entry& record_at(int number) {
+const Record& record_at(int number) {
     return *fc_config_entry_list[number - 1];
 }
 
@@ -56,7 +29,7 @@ const fc_config_file_entry& record_at(int number) {
 template <class Fits>
 int find_record(Fits fits) {
     int number = 0;
-    for (const fc_config_file_entry& record : all_conditions()) {
+    for (const Record& record : all_conditions()) {
         ++number;
         if (fits(record)) {
             return number;
@@ -65,77 +38,81 @@ int find_record(Fits fits) {
     return 0;
 }
 
-// The first record with the port's four ids, which a flash takes.
+// The first record with the port's four ids, whose images a flash takes.
 int record_with_ids(const hba_info& port) {
-    return find_record(
-        [&](const fc_config_file_entry& record) { return describes(record, port, Ids::four); });
+    return find_record([&](const Record& record) { return describes(record, port, Ids::four); });
 }
 
-// The first of them that is for the port's manufacturer and model, which a check judges by.
-int judging_record(const hba_info& port) {
-    return find_record([&](const fc_config_file_entry& record) {
-        return describes(record, port, Ids::four) && is_for_model(record, port);
-    });
+bool is_fcoe(const hba_info& port) {
+    return type_begins_with(port, "FCoE");
 }
+
+// Mistakes by which a record misses the port that it is meant for.
+struct Swap {
+    bool device;
+    bool subsystem;
+    const char* text;
+};
+
+constexpr Swap swaps[] = {
+    {true, false, "vendor and device id swapped"},
+    {false, true, "subvendor and subdevice id swapped"},
+    {true, true, "both pairs of ids swapped"},
+};
 
 // Why no record is for the port, with the record that comes nearest.
 std::string missing_record(const hba_info& port) {
+    const std::string id = pci_id(port);
     if (const int number = record_with_ids(port); number != 0) {
-        const fc_config_file_entry& record = record_at(number);
-        return numbered(number) + " has its ids, but is for " + record.vendor + " " + record.model +
-               ", not for " + port.mfg + " " + port.model +
-               ": correct it; a flash takes the record's images all the same";
+        return format("record %d has its ids, but is for %s %s, not %s %s: correct it; a flash "
+                      "takes its images all the same",
+                      number, record_at(number).vendor, record_at(number).model, port.mfg,
+                      port.model);
     }
-    const std::string none = "no record has " + pci_id(port);
-    const auto nearest = [&](bool swap_device, bool swap_subsystem) {
-        return find_record([&](fc_config_file_entry record) {
-            if (swap_device) {
+    for (const Swap& swap : swaps) {
+        const int number = find_record([&](Record record) {
+            if (swap.device) {
                 std::swap(record.vendor_id, record.device_id);
             }
-            if (swap_subsystem) {
+            if (swap.subsystem) {
                 std::swap(record.subvendor_id, record.subdevice_id);
             }
             return describes(record, port, Ids::four);
         });
-    };
-    if (const int number = nearest(true, false); number != 0) {
-        return none + "; " + numbered(number) + " has vendor and device id swapped: correct it";
+        if (number != 0) {
+            return format("no record has %s; record %d has %s: correct it", id.c_str(), number,
+                          swap.text);
+        }
     }
-    if (const int number = nearest(false, true); number != 0) {
-        return none + "; " + numbered(number) +
-               " has subvendor and subdevice id swapped: correct it";
+    const int same_device =
+        find_record([&](const Record& record) { return describes(record, port, Ids::two); });
+    if (same_device != 0) {
+        return format("no record has %s; record %d has the same vendor and device id only: correct "
+                      "it, or add a record",
+                      id.c_str(), same_device);
     }
-    if (const int number = nearest(true, true); number != 0) {
-        return none + "; " + numbered(number) +
-               " has vendor and device id, and subvendor and subdevice id swapped: correct it";
+    std::string columns = id;
+    for (std::size_t at = 0; (at = columns.find(':', at)) != std::string::npos;) {
+        columns.replace(at, 1, " | ");
     }
-    if (const int number = find_record(
-            [&](const fc_config_file_entry& record) { return describes(record, port, Ids::two); });
-        number != 0) {
-        return none + "; " + numbered(number) + " is for " + ids_of(record_at(number)) +
-               ": add a record, or correct that one";
-    }
-    std::string columns = pci_id(port);
-    for (std::size_t colon = 0; (colon = columns.find(':', colon)) != std::string::npos;) {
-        columns.replace(colon, 1, " | ");
-    }
-    return none + ": add one, '" + port.mfg + " | " + port.model + " | " + columns + " | ...'";
+    return format("no record has %s: add '%s | %s | %s | ...'", id.c_str(), port.mfg, port.model,
+                  columns.c_str());
 }
 
 // The storage that a record allows, as "DGC Marlovan_CX and any NRB".
-std::string allowed_storage(const fc_config_file_entry& record) {
+std::string allowed_storage(const Record& record) {
     std::vector<std::string> allowed;
     for (const auto* entry = record.periphery; entry != nullptr; entry = entry->next) {
         if (!is_blank(entry->vendor)) {
-            const std::string vendor = entry->vendor;
-            allowed.push_back(entry->whole_models[0] == '\0' ? "any " + vendor
-                                                             : vendor + " " + entry->whole_models);
+            allowed.push_back(entry->whole_models[0] == '\0'
+                                  ? format("any %s", entry->vendor)
+                                  : format("%s %s", entry->vendor, entry->whole_models));
         }
     }
-    return allowed.empty() ? "no storage" : join_list(allowed);
+    return allowed.empty() ? "no storage" : join(allowed);
 }
 
-bool allows(const fc_config_file_entry& record, target_mapping_entry storage) {
+bool allows(const Record& record, target_mapping_entry storage) {
     hba_info port{};
     port.target_mapping = &storage;
     global_ctrl_flags flags{};
@@ -143,38 +120,37 @@ bool allows(const fc_config_file_entry& record, target_mapping_entry storage) {
 }
 
 constexpr const char* no_flash_port =
-    "the adapter has no flash port (function 0 with port number 0, or 1 with 1), so that every run "
-    "of cnatool ends with 22: load its kernel module";
+    "the adapter has no flash port (function 0 with port number 0, or 1 with 1), so every run of "
+    "cnatool ends with 22: load its kernel module";
 
-// Why a check does not know the port's ids or storage; empty when it does.
-std::string unknown_reason(const hba_info& port, const CommonCauses& causes) {
+// Why the port's ids or its storage are not known; empty when they are.
+std::string unknown_reason(const hba_info& port, const std::string& inventory_ended) {
+    const bool without_ids = pci_id(port).empty();
     if (serial_missing(port)) {
-        return "no serial number, so that its reports are not read";
+        return "no serial number, so its reports are not read";
     }
-    if (pci_id(port).empty()) {
-        return !causes.inventory_ended.empty() ? causes.inventory_ended
-               : port.attributes == nullptr    ? "its attributes report has no title: the command "
-                                                 "failed, or the disk is full"
-                                               : "its attributes report lacks a PCI id";
+    if (!without_ids && (!is_fcoe(port) || port.mapping_reported != 0)) {
+        return "";
     }
-    if (type_begins_with(port, "FCoE") && port.mapping_reported == 0) {
-        return !causes.inventory_ended.empty()
-                   ? causes.inventory_ended
-                   : "its target-mapping report has no title: the command failed, "
-                     "or the disk is full";
+    if (!inventory_ended.empty()) {
+        return inventory_ended;
     }
-    return "";
+    if (port.attributes != nullptr && without_ids) {
+        return "its attributes report lacks a PCI id";
+    }
+    return format("its %s report has no title: the command failed, or the disk was full",
+                  without_ids ? "attributes" : "target-mapping");
 }
 
-// Why a check does not judge the port by a record; empty when it does.
+// Why a check does not judge the port; empty when it does.
 std::string unjudged_reason(const hba_info& port, int record, const CommonCauses& causes) {
     if (port.flash_port == nullptr) {
         return no_flash_port;
     }
     const std::vector<hba_info*> chain = adapter_chain(port);
     if (std::find(chain.begin(), chain.end(), &port) == chain.end()) {
-        return "a check does not come to this port: of an adapter's FCoE ports it judges the first "
-               "and the last after the flash port";
+        return "a check does not come to it: it judges two FCoE ports of an adapter, the first and "
+               "the last after the flash port";
     }
     if (record != 0) {
         return "";
@@ -182,18 +158,12 @@ std::string unjudged_reason(const hba_info& port, int record, const CommonCauses
     return causes.conditions_unusable.empty() ? missing_record(port) : causes.conditions_unusable;
 }
 
-SurveyedPort survey_port(const hba_info& port, const CommonCauses& causes) {
-    SurveyedPort surveyed{&port};
-    if (!pci_id(port).empty()) {
-        surveyed.record = judging_record(port);
-    }
-    if (!type_begins_with(port, "FCoE")) {
-        return surveyed;
-    }
-    surveyed.reason = unknown_reason(port, causes);
+void judge(SurveyedPort& surveyed, const CommonCauses& causes) {
+    const hba_info& port = *surveyed.port;
+    surveyed.reason = unknown_reason(port, causes.inventory_ended);
     if (!surveyed.reason.empty()) {
         surveyed.verdict = Verdict::not_known;
-        return surveyed;
+        return;
     }
     surveyed.reason = unjudged_reason(port, surveyed.record, causes);
     if (!surveyed.reason.empty()) {
@@ -204,66 +174,74 @@ SurveyedPort survey_port(const hba_info& port, const CommonCauses& causes) {
         surveyed.verdict = Verdict::allowed;
     } else {
         surveyed.verdict = Verdict::not_allowed;
-        surveyed.reason =
-            numbered(surveyed.record) + " allows " + allowed_storage(record_at(surveyed.record));
+        surveyed.reason = format("record %d allows %s", surveyed.record,
+                                 allowed_storage(record_at(surveyed.record)).c_str());
     }
-    return surveyed;
 }
 
-// Notes storage that a check passes over: it judges the last LUN of a report alone.
-void look_at_other_luns(const SurveyedPort& surveyed, std::vector<PortNote>& notes) {
-    if (surveyed.record == 0 || surveyed.port->target_mapping == nullptr) {
+// Storage that a check passes over: it judges the last LUN of a report alone.
+void look_at_luns(const SurveyedPort& surveyed, std::vector<PortNote>& notes) {
+    const target_mapping_entry* const judged = surveyed.port->target_mapping;
+    if (judged == nullptr || surveyed.record == 0) {
         return;
     }
     for (const target_mapping_entry& lun : reported_luns(*surveyed.port)) {
-        if (std::strcmp(lun.vendor_id, surveyed.port->target_mapping->vendor_id) == 0 &&
-            std::strcmp(lun.product_id, surveyed.port->target_mapping->product_id) == 0) {
-            continue;
-        }
-        if (!allows(record_at(surveyed.record), lun)) {
-            notes.push_back({surveyed.port, std::string("its report also names ") + lun.vendor_id +
-                                                " " + lun.product_id + ", which " +
-                                                numbered(surveyed.record) +
-                                                " does not allow; a check judges the last LUN"});
+        const bool same = std::strcmp(lun.vendor_id, judged->vendor_id) == 0 &&
+                          std::strcmp(lun.product_id, judged->product_id) == 0;
+        if (!same && !allows(record_at(surveyed.record), lun)) {
+            notes.push_back(
+                {surveyed.port, format("its report also names %s %s, which record %d "
+                                       "does not allow; a check judges the last LUN",
+                                       lun.vendor_id, lun.product_id, surveyed.record)});
         }
     }
 }
 
-SurveyedImage survey_image(const char* kind, const char* pattern, const std::string& directory) {
-    return {kind, pattern, matching_images(directory, pattern)};
+SurveyedImage survey_image(const char* kind, const char* pattern, const hba_info& port) {
+    return {kind, pattern, matching_images(image_directory(port), pattern)};
 }
 
 SurveyedFlash survey_flash(const hba_info& port) {
     SurveyedFlash flash{&port};
     flash.record = pci_id(port).empty() ? 0 : record_with_ids(port);
     if (flash.record != 0) {
-        const fc_config_file_entry& record = record_at(flash.record);
-        const std::string directory = image_directory(port);
-        flash.firmware = survey_image("firmware", record.firmware_image, directory);
+        const Record& record = record_at(flash.record);
+        flash.firmware = survey_image("firmware", record.firmware_image, port);
         if (record.bios_image[0] != '\0') {
-            flash.bios = survey_image("BIOS", record.bios_image, directory);
+            flash.bios = survey_image("BIOS", record.bios_image, port);
         }
     }
     return flash;
 }
 
-void look_at_image(const SurveyedFlash& flash, const std::optional<SurveyedImage>& image,
+void look_at_image(const SurveyedFlash& flash, const SurveyedImage& image,
                    std::vector<PortNote>& notes) {
-    if (!image) {
-        return;
+    const char* const pattern = image.pattern.c_str();
+    if (image.pattern.empty()) {
+        notes.push_back({flash.port, format("record %d names no %s image: a flash ends with 20",
+                                            flash.record, image.kind)});
+    } else if (image.files.empty()) {
+        notes.push_back(
+            {flash.port,
+             format("no file in %s is the %s image '%s' of record %d: a flash ends "
+                    "with 20",
+                    image_directory(*flash.port).c_str(), image.kind, pattern, flash.record)});
+    } else if (image.files.size() > 1) {
+        notes.push_back(
+            {flash.port, format("%s match the %s image '%s' of record %d: keep one; "
+                                "which one a flash takes is left to the directory",
+                                join(image.files).c_str(), image.kind, pattern, flash.record)});
     }
-    const std::string name = std::string("the ") + image->kind + " image '" + image->pattern +
-                             "' of " + numbered(flash.record);
-    if (image->pattern.empty()) {
-        notes.push_back({flash.port, numbered(flash.record) + " names no " + image->kind +
-                                         " image: a flash ends with 20"});
-    } else if (image->files.empty()) {
-        notes.push_back({flash.port, "no file is " + name + ": put one into " +
-                                         image_directory(*flash.port) + "; a flash ends with 20"});
-    } else if (image->files.size() > 1) {
-        notes.push_back({flash.port, join_list(image->files) + " match " + name +
-                                         ": keep one; a flash takes the first in the directory's "
-                                         "order"});
+}
+
+void look_at_flash(const SurveyedFlash& flash, bool selected, std::vector<PortNote>& notes) {
+    if (flash.record == 0 && selected && !is_fcoe(*flash.port) && !pci_id(*flash.port).empty()) {
+        notes.push_back({flash.port, missing_record(*flash.port) + "; a flash writes nothing"});
+    }
+    for (const auto& image : {flash.firmware, flash.bios}) {
+        if (image) {
+            look_at_image(flash, *image, notes);
+        }
     }
 }
 
@@ -276,85 +254,73 @@ bool is_flash_port(const hba_info& port) {
     return false;
 }
 
-// Whether the port is to be listed. One without ids is: it could be a port that is meant.
+// Whether the port is to be listed. One whose ids are not known is: it could be meant.
 bool is_listed(const hba_info& port, const option_input* selection) {
-    if (selection == nullptr) {
-        return true;
-    }
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
         if (selects(*entry, port)) {
             return true;
         }
     }
-    return pci_id(port).empty() && (type_begins_with(port, "FCoE") || !serial_missing(port));
-}
-
-// Notes what concerns a listed port beside the verdict on its storage.
-void look_at_port(const SurveyedPort& surveyed, const CommonCauses& causes, bool selected,
-                  std::vector<PortNote>& notes) {
-    const hba_info& port = *surveyed.port;
-    if (surveyed.verdict != Verdict::none || serial_missing(port) || port.flash_port == nullptr) {
-        return;
-    }
-    if (pci_id(port).empty()) {
-        notes.push_back({&port, unknown_reason(port, causes)});
-    } else if (selected && is_flash_port(port) && record_with_ids(port) == 0) {
-        notes.push_back({&port, missing_record(port) + "; a flash writes nothing"});
-    }
+    const bool could_be_meant = pci_id(port).empty() && (is_fcoe(port) || !serial_missing(port));
+    return selection == nullptr || could_be_meant;
 }
 
 // One line for the ports of an adapter that have the same note.
-std::vector<std::string> fold(const std::vector<PortNote>& notes) {
+std::vector<std::string> fold(std::vector<PortNote> notes) {
     std::vector<std::string> lines;
-    std::vector<bool> folded(notes.size());
-    for (std::size_t first = 0; first < notes.size(); ++first) {
+    while (!notes.empty()) {
+        const PortNote first = notes.front();
         std::vector<std::string> functions;
-        for (std::size_t note = first; note < notes.size(); ++note) {
-            if (!folded[note] && notes[note].text == notes[first].text &&
-                std::strcmp(notes[note].port->serial_no, notes[first].port->serial_no) == 0) {
-                folded[note] = true;
-                functions.emplace_back(notes[note].port->pci_function);
+        std::erase_if(notes, [&](const PortNote& note) {
+            const bool same = note.text == first.text &&
+                              std::strcmp(note.port->serial_no, first.port->serial_no) == 0;
+            if (same) {
+                functions.emplace_back(note.port->pci_function);
             }
-        }
-        if (!functions.empty()) {
-            lines.push_back(std::string(notes[first].port->serial_no) +
-                            (functions.size() > 1 ? ", functions " : ", function ") +
-                            join_list(functions) + ": " + notes[first].text);
-        }
+            return same;
+        });
+        lines.push_back(format("%s, function%s %s: %s", first.port->serial_no,
+                               functions.size() > 1 ? "s" : "", join(functions).c_str(),
+                               first.text.c_str()));
     }
     return lines;
 }
 
-void look_at_duplicates(std::vector<std::string>& notes) {
+bool same_ids(const Record& a, const Record& b) {
+    return a.vendor_id == b.vendor_id && a.device_id == b.device_id &&
+           a.subvendor_id == b.subvendor_id && a.subdevice_id == b.subdevice_id;
+}
+
+void look_at_records(std::vector<std::string>& notes) {
     int number = 0;
-    for (const fc_config_file_entry& record : all_conditions()) {
+    for (const Record& record : all_conditions()) {
         ++number;
-        const std::string ids = ids_of(record);
-        const int first =
-            find_record([&](const fc_config_file_entry& other) { return ids_of(other) == ids; });
+        const int first = find_record([&](const Record& other) { return same_ids(other, record); });
         if (first != number && record.vendor_id != 0) {
-            notes.push_back(
-                "records " + std::to_string(first) + " and " + std::to_string(number) +
-                " have the same four ids: a flash takes the first one's images, a check "
-                "judges by the first one for the port's model");
+            notes.push_back(format("records %d and %d have the same four ids: a flash takes the "
+                                   "first, a check the first that is for the port's model",
+                                   first, number));
         }
     }
 }
 
+// A group of --pci-id, as typed but for what its fields cut.
+std::string group_of(const option_input& entry) {
+    std::string group = entry.vendor_id_str;
+    for (const char* id : {entry.device_id_str, entry.subvendor_id_str, entry.subdevice_id_str}) {
+        group += *id == '\0' ? "" : format(":%s", id);
+    }
+    return group.empty() ? "an empty group" : group;
+}
+
 void look_at_selection(const option_input* selection, std::vector<std::string>& notes) {
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
-        const auto ports = all_ports();
         bool found = false;
-        for (const hba_info& port : ports) {
+        for (const hba_info& port : all_ports()) {
             found = found || (!serial_missing(port) && selects(*entry, port));
         }
         if (!found) {
-            std::string group = entry->vendor_id_str;
-            for (const char* id :
-                 {entry->device_id_str, entry->subvendor_id_str, entry->subdevice_id_str}) {
-                group += *id == '\0' ? "" : std::string(":") + id;
-            }
-            notes.push_back("--pci-id: no port has " + group);
+            notes.push_back(format("--pci-id: no port has %s", group_of(*entry).c_str()));
         }
     }
 }
@@ -365,18 +331,17 @@ std::string pci_id(const hba_info& port) {
     if (port.attributes == nullptr) {
         return "";
     }
-    const hba_attributes_entry& attributes = *port.attributes;
-    for (const auto& [text, value] :
-         {std::pair{attributes.vendor_spec_id, attributes.vendor_spec_id_val},
-          {attributes.device_id, attributes.device_id_val},
-          {attributes.subvendor_id, attributes.subvendor_id_val},
-          {attributes.subdevice_id, attributes.subdevice_id_val}}) {
+    const hba_attributes_entry& ids = *port.attributes;
+    for (const auto& [text, value] : {std::pair{ids.vendor_spec_id, ids.vendor_spec_id_val},
+                                      {ids.device_id, ids.device_id_val},
+                                      {ids.subvendor_id, ids.subvendor_id_val},
+                                      {ids.subdevice_id, ids.subdevice_id_val}}) {
         if (*text == '\0' || value > 0xFFFF) {
             return "";
         }
     }
-    return format_ids(attributes.vendor_spec_id_val, attributes.device_id_val) + ":" +
-           format_ids(attributes.subvendor_id_val, attributes.subdevice_id_val);
+    return format("%04X:%04X:%04X:%04X", ids.vendor_spec_id_val, ids.device_id_val,
+                  ids.subvendor_id_val, ids.subdevice_id_val);
 }
 
 Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
@@ -389,25 +354,28 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
         if (!is_listed(port, selection)) {
             continue;
         }
-        const SurveyedPort surveyed = survey_port(port, causes);
-        if (surveyed.reason != no_flash_port) {
-            notes.push_back({&port, surveyed.reason});
+        SurveyedPort& surveyed = survey.ports.emplace_back(&port);
+        surveyed.record = pci_id(port).empty() ? 0 : find_record([&](const Record& record) {
+            return describes(record, port, Ids::four) && is_for_model(record, port);
+        });
+        if (is_fcoe(port)) {
+            judge(surveyed, causes);
+            notes.push_back({&port, surveyed.reason == no_flash_port ? "" : surveyed.reason});
+        } else if (!serial_missing(port)) {
+            notes.push_back({&port, unknown_reason(port, causes.inventory_ended)});
         }
-        look_at_port(surveyed, causes, selection != nullptr, notes);
-        look_at_other_luns(surveyed, notes);
-        survey.ports.push_back(surveyed);
+        look_at_luns(surveyed, notes);
         if (is_flash_port(port)) {
             survey.flashes.push_back(survey_flash(port));
-            look_at_image(survey.flashes.back(), survey.flashes.back().firmware, notes);
-            look_at_image(survey.flashes.back(), survey.flashes.back().bios, notes);
+            look_at_flash(survey.flashes.back(), selection != nullptr, notes);
         }
     }
     std::erase_if(notes, [&](const PortNote& note) {
         return note.text.empty() || note.text == causes.inventory_ended ||
                note.text == causes.conditions_unusable;
     });
-    survey.notes = fold(notes);
-    look_at_duplicates(survey.notes);
+    survey.notes = fold(std::move(notes));
+    look_at_records(survey.notes);
     look_at_selection(selection, survey.notes);
     return survey;
 }
