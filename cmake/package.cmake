@@ -28,12 +28,13 @@ install(DIRECTORY DESTINATION ${doc} ${open_directory})
 install(DIRECTORY examples/blade DESTINATION ${doc}/examples ${open_files} ${open_directory})
 install(DIRECTORY contrib/ansible DESTINATION ${doc}/examples ${open_files} ${open_directory}
   PATTERN __pycache__ EXCLUDE)
-install(TARGETS cnatool DESTINATION ${home})
-install(FILES completion/cnatool DESTINATION usr/share/bash-completion/completions)
+install(TARGETS cnatool lscna DESTINATION ${home})
+install(FILES completion/cnatool completion/lscna DESTINATION usr/share/bash-completion/completions)
 install(FILES docs/automation.md CHANGELOG.md packaging/copyright
   packaging/FC_HBA_Conditions.txt.template DESTINATION ${doc})
 install(FILES packaging/lintian-overrides DESTINATION usr/share/lintian/overrides RENAME cnatool)
 install_compressed(man/cnatool.8.in cnatool.8 usr/share/man/man8)
+install_compressed(man/lscna.8.in lscna.8 usr/share/man/man8)
 install_compressed(man/FC_HBA_Conditions.txt.5.in FC_HBA_Conditions.txt.5 usr/share/man/man5)
 install_compressed(packaging/changelog.in changelog ${doc})
 
