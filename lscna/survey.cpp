@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 #include <utility>
 
 namespace {
@@ -182,7 +183,7 @@ void judge(SurveyedPort& surveyed, const CommonCauses& causes) {
 // Storage that a check passes over: it judges the last LUN of a report alone.
 void look_at_luns(const SurveyedPort& surveyed, std::vector<PortNote>& notes) {
     const target_mapping_entry* const judged = surveyed.port->target_mapping;
-    if (judged == nullptr || surveyed.record == 0) {
+    if (surveyed.port->storage_differs == 0 || surveyed.record == 0) {
         return;
     }
     for (const target_mapping_entry& lun : reported_luns(*surveyed.port)) {
@@ -197,18 +198,27 @@ void look_at_luns(const SurveyedPort& surveyed, std::vector<PortNote>& notes) {
     }
 }
 
-SurveyedImage survey_image(const char* kind, const char* pattern, const hba_info& port) {
-    return {kind, pattern, matching_images(image_directory(port), pattern)};
+// Adapters of one model share directory and pattern, which are searched once.
+using FoundImages = std::map<std::pair<std::string, std::string>, std::vector<std::string>>;
+
+SurveyedImage survey_image(const char* kind, const char* pattern, const hba_info& port,
+                           FoundImages& found) {
+    const std::string directory = image_directory(port);
+    const auto [images, is_new] = found.try_emplace({directory, pattern});
+    if (is_new) {
+        images->second = matching_images(directory, pattern);
+    }
+    return {kind, pattern, images->second};
 }
 
-SurveyedFlash survey_flash(const hba_info& port) {
+SurveyedFlash survey_flash(const hba_info& port, FoundImages& found) {
     SurveyedFlash flash{&port};
     flash.record = pci_id(port).empty() ? 0 : record_with_ids(port);
     if (flash.record != 0) {
         const Record& record = record_at(flash.record);
-        flash.firmware = survey_image("firmware", record.firmware_image, port);
+        flash.firmware = survey_image("firmware", record.firmware_image, port, found);
         if (record.bios_image[0] != '\0') {
-            flash.bios = survey_image("BIOS", record.bios_image, port);
+            flash.bios = survey_image("BIOS", record.bios_image, port, found);
         }
     }
     return flash;
@@ -347,6 +357,7 @@ std::string pci_id(const hba_info& port) {
 Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
     Survey survey;
     std::vector<PortNote> notes;
+    FoundImages images;
     for (const hba_info& port : all_ports()) {
         if (!serial_missing(port) && port.flash_port == nullptr) {
             notes.push_back({&port, no_flash_port});
@@ -354,7 +365,7 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
         if (!is_listed(port, selection)) {
             continue;
         }
-        SurveyedPort& surveyed = survey.ports.emplace_back(&port);
+        SurveyedPort& surveyed = survey.ports.emplace_back(SurveyedPort{&port});
         surveyed.record = pci_id(port).empty() ? 0 : find_record([&](const Record& record) {
             return describes(record, port, Ids::four) && is_for_model(record, port);
         });
@@ -366,7 +377,7 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
         }
         look_at_luns(surveyed, notes);
         if (is_flash_port(port)) {
-            survey.flashes.push_back(survey_flash(port));
+            survey.flashes.push_back(survey_flash(port, images));
             look_at_flash(survey.flashes.back(), selection != nullptr, notes);
         }
     }

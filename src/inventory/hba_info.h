@@ -104,6 +104,7 @@ struct hba_info {
     std::uint8_t check_done; // the consistency check has handled this port
 
     std::uint8_t mapping_reported; // its target-mapping report was read and has its title
+    std::uint8_t storage_differs;  // the report names storage beside that of target_mapping
 };
 
 // Every port, null-terminated; null as long as no port was found.
