@@ -54,17 +54,15 @@ void check_items(const char* group, const char* product, Verdict& verdict) {
 }
 
 void print_storage(const target_mapping_entry& storage) {
-    message(1, "\t\t\t\t%s\n", storage.vendor_id);
-    message(1, "\t\t\t\t%s\n", storage.product_id);
-    message(1, "\t\t\t\t%s\n", storage.product_version);
+    message(1, "\t\t\t\t%s\n\t\t\t\t%s\n\t\t\t\t%s\n", storage.vendor_id, storage.product_id,
+            storage.product_version);
 }
 
 // Judges the storage by one allowed subsystem of its vendor. Returns true when the other
 // subsystems need not be looked at.
 bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_entry& storage,
                      Verdict& verdict) {
-    message(1, "\n");
-    message(1, "\t\tAttached storage sub-system:\n");
+    message(1, "\n\t\tAttached storage sub-system:\n");
     print_storage(storage);
     const char* const models = allowed.whole_models;
     if (*models == '\0') {
@@ -87,8 +85,7 @@ bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_e
 }
 
 void print_invalid(const target_mapping_entry& storage) {
-    message(1, "\n");
-    message(1, "\n\t\tInvaild attached storage sub-system found.\n");
+    message(1, "\n\n\t\tInvaild attached storage sub-system found.\n");
     print_storage(storage);
     message(1, "\n");
 }

@@ -60,14 +60,13 @@ void resolve_directories(const char* typed_program) {
 
 void resolve_temporary_directory() {
     const char* const directory = std::getenv("TMPDIR");
+    const bool given = directory != nullptr && *directory != '\0';
+    copy_text(TEMPDIR_BUFFER, given ? directory : "/tmp");
     if (directory == nullptr) {
-        copy_text(TEMPDIR_BUFFER, "/tmp");
         message(3, "env: Environment variable TMPDIR is not set.\n");
-    } else if (*directory == '\0') {
-        copy_text(TEMPDIR_BUFFER, "/tmp");
+    } else if (!given) {
         message(3, "env: Environment variable TMPDIR is empty.\n");
     } else {
-        copy_text(TEMPDIR_BUFFER, directory);
         message(3, "env: Temporary directory is: %s.\n", TEMPDIR_BUFFER);
     }
 }
