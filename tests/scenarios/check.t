@@ -1,69 +1,187 @@
   $ . "$TESTDIR/setup.sh"
 
-The statuses of the checks and of the selection. Only the first active check
-decides whether a flash follows, the vendor-wide one comes first in the status.
+The statuses of the checks. The first check that is asked for decides whether a flash
+follows.
 
-  $ both='--ctrl-wide-identical --ctrl-vendor-wide-identical' all='-pci-id 19A2:0714' fm=-pci-id\ 19A2:0714:1C3E:11C1 fx=-pci-id\ 19A2:0714:1C3E:11C2
-  $ differ() { sed -i 's/: DGC/: NRB/; s/_CX1/_SX1/' blade/VM10250117_3_target_mapping.out; }
-  $ maps() { printf "$1" >blade/VM10250117_2_target_mapping.out; }
+  $ fm_ports_differ() { sed -i 's/: DGC/: NRB/; s/_CX1/_SX1/' blade/VM10250117_3_target_mapping.out; }
+  $ both_checks='--ctrl-wide-identical --ctrl-vendor-wide-identical'
   $ rows simulated lay_blade <<'EOF'
-  > -v 2 --ctrl-vendor-wide-identical $all => 2 *\nvendor specific reference-sub-system 1 >NRB< >DGC<.\n\t\tAt least one sub-system differs from vendor specific reference-sub-system (different vendors).\n\n*system 0 >NRB<*
-  > --silent $both $all => 2
-  > --silent x--ctrl-wide-identical $all => 0
-  > --flash $both $all => 2 *Now start flashing*
-  > --flash --ctrl-vendor-wide-identical -v 3 $all => 2 *OverallSubSystemCheck returned: 0 \n
-  > --flash --check-for-valid-subsystem -v 3 $fx => 4 *OverallSubSystemCheck returned: 0 \n
-  > differ :: -v 2 --ctrl-wide-identical $fm => 1 *\t\tThis sub-system differs from controller specific reference-sub-system.\n\t\t\tVendor:*\n\n*\t\tAt least one*
-  > differ :: --silent $both $fm => 2
-  > differ :: --silent $fm => 0
-  > differ :: --flash --check-for-valid-subsystem --ctrl-wide-identical $fm => 1 *Now start flashing*
-  > differ :: --flash --ctrl-wide-identical --silent $fm => 1
+  > --silent $FM => 0
+  > --silent $FX => 4
+  > # FM sees DGC, FX sees NRB; the vendor-wide status comes first.
+  > --silent --ctrl-wide-identical $BOTH => 0
+  > --silent --ctrl-vendor-wide-identical --qmr-mode $BOTH => 2
+  > --silent $both_checks $BOTH => 2
+  > -v 2 --ctrl-vendor-wide-identical $BOTH => 2 ...
+  > | vendor specific reference-sub-system 1 >NRB< >DGC<.
+  > | \t\tAt least one sub-system differs from vendor specific reference-sub-system (different vendors).
+  > |
+  > | ...
+  > | vendor specific reference-sub-system 0 >NRB< >DGC<.
+  > | ...
+  > fm_ports_differ :: -v 2 --ctrl-wide-identical $FM => 1 ...
+  > | \t\tThis sub-system differs from controller specific reference-sub-system.
+  > | \t\t\tVendor: *PCI function: 3
+  > |
+  > | vendor specific reference-sub-system 0 >DGC< >DGC<.
+  > | \t\tAt least one*
+  > | ...
+  > fm_ports_differ :: --silent $both_checks $FM => 2
+  > fm_ports_differ :: --silent $FM => 0
+  > # A flash after a check that has passed, with the status of one that has not.
+  > --flash $both_checks $BOTH => 2 ...\n\tNow start flashing the firmware.\n...
+  > fm_ports_differ :: --flash --check-for-valid-subsystem --ctrl-wide-identical $FM => 1 ...
+  > | \tNow start flashing the firmware.
+  > | ...
+  > # No flash after one that has failed; invalid storage fails every check.
+  > fm_ports_differ :: -v 3 --flash --ctrl-wide-identical $FM => 1 ...\nOverallSubSystemCheck returned: 0*
+  > -v 3 --flash --ctrl-vendor-wide-identical $BOTH => 2 ...\nOverallSubSystemCheck returned: 0*
+  > -v 3 --flash --check-for-valid-subsystem $FX => 4 ...\nOverallSubSystemCheck returned: 0*
+  > -v 3 --flash --ctrl-wide-identical $FX => 4 ...\nOverallSubSystemCheck returned: 0*
+  > -v 3 --flash --ctrl-vendor-wide-identical $FX => 4 ...\nOverallSubSystemCheck returned: 0*
+  > EOF
+
+What a selection finds.
+
+  $ without_ports() { echo "ERROR: no adapter" >blade/local_hba_list.out; }
+  $ without_records() { echo '# none' >$conditions; }
+  $ without_flash_port() { sed -i 's/^\(Port Number *\): ./\1: 3/' blade/local_hba_list.out; }
+  $ rows simulated lay_blade <<'EOF'
   > --silent -vid 19A2 -dev 0714 -subvid 1C3E -subdev 11C3 => 12
   > --silent -pci-id 19A2:0714:1:11C1 => 12
   > --silent -pci-id 0:0 => 12
-  > -d 6 => 12
   > --silent --qmr-modex => 0
-  > -v 3 -vn Emulex => 12 *\n\n*\n*+\n\n*+\n*+\n\nOverallSubSystemCheck returned: 1 \n
-  > --silent --ctrl-vendor-wide-identical --qmr-mode $all => 2
+  > # Names select nothing.
+  > -v 3 -vn Emulex => 12 ...\nOverallSubSystemCheck returned: 1*
+  > # A port that is selected counts as found without a record, too.
+  > without_records :: --silent $FM => 0
+  > -v 6 -pci-id 19A2:0712:1C3E:11D0 => 0 ...
+  > | \tFound a matching controller-device in line 5:
+  > | \t\tvendor-id: 19A2, device-id: 0712
+  > | \t\tsubvendor-id: 1C3E, subdevice-id: 11D0
+  > | \t\tCorrespondig data: vendor: Emulex; model: CNA-10102-I
+  > | ...
+  > without_ports :: -v 1 => 13 \nNo Blade Engine was found in this system.\n
+  > without_ports :: --qmr-mode => 0 \nNo Blade*\n
+  > # No port with the number of a flash port.
+  > without_flash_port :: $FM => 22
   > EOF
 
-What ends the walk over an adapter's ports.
+The walk over an adapter's ports, in the order of their functions: storage that is not
+allowed ends it, and a port without storage does not.
 
+  $ fm_sees() { printf "$1" >blade/VM10250117_2_target_mapping.out; }
+  $ listed_backwards() { sed -i '/^PCI Function/y/23/32/' blade/local_hba_list.out; }
+  $ other_maker() { sed -i "s/^Mfg.*/Mfg: emulex/" blade/local_hba_list.out; }
+  $ other_model() { sed -i 's/10102-F /10102-FMX /' $conditions; }
+  $ walk() {
+  >     simulated "$@" >out; status=$?
+  >     sed -n 's/^\t\tVendor.*PCI f/F/p; s/^\t\t\(Take this\|This\|Subsystem\) /\1 /p' out; return $status
+  > }
+  $ rows walk lay_blade <<'EOF'
+  > -v 2 $FM => 0
+  > | Function: 2
+  > | Take this sub-system as reference-sub-system for this controller-device.
+  > | Take this sub-system as reference-sub-system for vendor Emulex Corporation.
+  > | Function: 3
+  > | This sub-system is consistent with controller specific reference-sub-system (only vendor-id was checked).
+  > # The ports come into their order before the flash ports are sought.
+  > listed_backwards :: -v 1 $FM => 0 Function: 2\nFunction: 3
+  > # Invalid storage ends the walk, which the second selected port begins again.
+  > fm_sees '\n\n\n\nVendor ID: dgc' :: -v 2 $FM => 4
+  > | Function: 2
+  > | Take this sub-system as reference-sub-system for this controller-device.
+  > | Function: 3
+  > | Take this sub-system as reference-sub-system for this controller-device.
+  > | Take this sub-system as reference-sub-system for vendor Emulex Corporation.
+  > # From level 4 on the second walk tells what is done.
+  > -v 4 $FM => 0 ...
+  > | Function: 2
+  > | Subsystem check already done => continue.
+  > | Function: 3
+  > | Subsystem check already done => continue.
+  > # A colon in the title, the first four lines, is no storage; behind it any line is.
+  > fm_sees '\n\n\nVendor ID: DGC\n' :: -v 2 $FM => 0
+  > | Function: 2
+  > | Function: 3
+  > | Take this sub-system as reference-sub-system for this controller-device.
+  > | Take this sub-system as reference-sub-system for vendor Emulex Corporation.
+  > fm_sees '\n\n\n\nType: x' :: -v 1 $FM => 4 Function: 2\nFunction: 3
+  > # A port of another maker or model than the record's is passed over.
+  > other_maker :: $FM => 0
+  > other_model :: $FM => 0
+  > EOF
+
+Storage is listed when it names its vendor; a port without a serial number is passed over.
+
+  $ fx_serial() { sed -i "/^Serial/s%VM2.*%$1%" blade/local_hba_list.out; }
+  $ no_flash_port() { sed -i '/^Serial/s/VM.*/n.a/;/^Port Number/s/:.*/:3/' blade/local_hba_list.out; }
   $ rows simulated lay_blade <<'EOF'
-  > sed -i 's/: DGC/: dgc/' blade/VM10250117_2* :: -v 2 --ctrl-wide-identical $fm => 4 *function: 2\n\t\tTake this*function: 2\n\n\n\t\t---*function: 3\n\n\t\tAtt*for vendor Emulex Corporation.\n*function: 3\n
-  > maps '\n\n\nVendor ID: DGC\nno target' :: -v 4 --ctrl-wide-identical $fm => 0 *  function 2\n\n  Em*function: 2\n\n\n\t\t---*function: 3\n\n\t\tAtt*
-  > maps '\n\n\n\nVendor ID: D' :: -v 4 $fm => 4 *  function 2\n\n\tD\n\t\n\t\n\n  Em*function: 2\n\t\tTake*
-  > maps '\n\n\n\nType: x' :: -v 4 $fm => 4 *  function 2\n\n  Em*function: 2\n\t\tTake*
-  > sed -i 's/^Mfg.*/Mfg: emulex/' blade/local* :: -v 2 $fm => 0
-  > sed -i 's/10102-F /10102-FMX /' blade/FC* :: -v 2 $fm => 0
-  > -v 6 -pci-id 19A2:0712:1C3E:11D0 => 0 *\tFound a matching controller-device in line 5:\n\t\tvendor-id: 19A2, device-id: 0712\n\t\tsubvendor-id: 1C3E, subdevice-id: 11D0\n*model: CNA-10102-I\n\n---*
-  > echo "ERROR: no adapter" >blade/local_hba_list.out :: -v 1 => 13 \nNo Blade Engine was found in this system.\n\n
-  > echo "ERROR: no adapter" >blade/local_hba_list.out :: --qmr-mode => 0 \nNo Bl*
-  > sed -i 's/^\(Port Number *\): ./\1: 3/' blade/local* :: $fm => 22
-  > sed -i '/^Serial/s/VM.*/n.a/;/^Port Number/s/:.*/:3/' blade/local* :: -v 1 => 22 Error*n.a_2_hba*
-  > sed -i '/^Serial/s/VM2.*/n\/a/' blade/local* :: -v 1 $all => 0 \t\tNo serial number => SKIP!\n*SKIP!\n*SKIP!\n*SKIP!\n\t\t\tNo serial number => SKIP!\n*
-  > sed -i '/^Serial/s/VM2.*/n\/ab/' blade/local* :: -v 6 $all => 0 *\tVendor: Emulex Corporation Model: CNA-10102-FX; SN: n/ab port: 0 function: 0\n\tNo serial number => SKIP\n---*+\n\tVendor*
+  > fm_sees '\n\n\n\nVendor ID: D' :: -v 4 $FM => 4 ...\n  *VM10250117  port 0  function 2\n\n\tD\n\t\n\t\n\n  Emu*\n...
+  > fm_sees '\n\n\n\nType: x' :: -v 4 $FM => 4 ...\n  *VM10250117  port 0  function 2\n\n  Emulex*function 3\n...
+  > -v 6 $FX => 4 ...
+  > |
+  > |
+  > | \t\tInvaild attached storage sub-system found.
+  > | \t\t\t\tNRB
+  > | \t\t\t\tMarlovan_SX1
+  > | \t\t\t\t7.12
+  > |
+  > | ...
+  > fx_serial n/a :: -v 1 $BOTH => 0
+  > | \t\tNo serial number => SKIP!
+  > | *SKIP!
+  > | *SKIP!
+  > | *SKIP!
+  > | \t\t\tNo serial number => SKIP!
+  > | *SKIP!
+  > |
+  > | ...
+  > fx_serial n/ab :: -v 6 $BOTH => 0 ...
+  > | \tVendor: Emulex Corporation Model: CNA-10102-FX; SN: n/ab port: 0 function: 0
+  > | \tNo serial number => SKIP
+  > | ---------+*
+  > | \tVendor*
+  > | ...
+  > # "n.a" is a serial number like others.
+  > no_flash_port :: -v 1 => 22 Error: Could not open file blade//n.a_2_hba_attributes.out
   > EOF
 
-The storage of one port against a record with the subsystems given.
+The storage of one port, NRB Marlovan_SX1, against the subsystems that its record allows:
+vendor, models, extra.
 
   $ lay_blade && : >blade/VM20713302_3_target_mapping.out
   $ judged() {
-  >     echo "Emulex|CNA-10102-FX|19A2|0714|1C3E|11C2|x|x|x|x|x|x|$1" >blade/FC_HBA_Conditions.txt
-  >     status=0; simulated $fx >out || status=$?
-  >     sed '1,/function: 2/d; /---+/,$d' out; return $status
+  >     echo "Emulex|CNA-10102-FX|19A2|0714|1C3E|11C2|x|x|x|x|x|x|$1" >$conditions
+  >     simulated $FX >out; status=$?; sed '1,/PCI function: 2/d; /--+/,$d; /^\t\t\t\t/d; /^$/d' out; return $status
   > }
   $ rows judged <<'EOF'
-  > 'NRB| |x' => 0 \n\t\tAttached storage sub-system:\n\t\t\t\tNRB\n\t\t\t\tMarlovan_SX1\n\t\t\t\t7.12\n\n\n*
-  > 'NRB|Marlovan_SX|x' => 0 *12\n\t\tCheck subsystem: 'Marlovan_SX' Att*--> OK\n\tAl*\n\tRef*\n\t\t\tAll*: Marlovan_SX\n\n*
-  > 'NRB|Marlovan_SX10|x' => 4 *12\n\t\tCheck*_SX10' Attached*_SX1'\t\t\t--> Invalid subsystem!\n\n\n
-  > 'nrb|Marlovan_SX1|x' => 4 \n\n
-  > 'NRB|A,Marlovan_SX1|x' => 0 *\t\t\tCheck*'A'*!\n\t\tCheck*--> OK\n\tAl*_SX1  Sub*found in Group: A,Marlovan_SX1\n*
-  > 'NRB|Marlovan_SX1,A|x' => 0 *12\n\t\t\tCheck*'Marlovan_SX1'*--> OK\n\tAl*Group: Marlovan_SX1,A\n*
-  > 'NRB|A,,B|x' => 0 *12\n\t\t\tCheck*'A'*!\n\t\t\tCheck subsystem: ''*--> OK\n\n*
-  > 'NRB|A,B,|x' => 4 *12\n\t\t\tCheck*'A'*!\n\t\t\tCheck*'B'*!\n\t\tCheck subsystem: ''*!\n\n\n
-  > 'NRB|X|x|NRB|Marlovan_S|x' => 0 *'X'*!\n\n\t\tAtt*'Marlovan_S'*OK\n*same group: Marlovan_S\n*
-  > 'NRB| |x|NRB|Y,Z|x|NRB|Marlovan|x' => 0 *12\n\n\t\tAtt*'Y'*!\n\n\t\tAtt*12\n\n*
-  > 'NRB|,|x|NRB|A|x' => 0 *12\n\t\t\tCheck subsystem: ''*--> OK\n\n\t\tAtt*12\n\n*
-  > '|Marlovan|x|DGC| |x' => 4 \n\n
+  > # The vendor counts whole, blank models allow all that it makes.
+  > 'NRB| |x' => 0 \t\tAttached storage sub-system:
+  > '|Marlovan|x|NR| |x|NRBX| |x|nrb| |x' => 4
+  > # A model allows what begins with it.
+  > 'NRB|Marlovan_SX|x' => 0
+  > | \t\tAttached storage sub-system:
+  > | \t\tCheck subsystem: 'Marlovan_SX' Attached subsystem: 'Marlovan_SX1'\t\t\t--> OK
+  > | \tAlready identified reference subsystems: Marlovan_SX  Subsystem group: Marlovan_SX
+  > | \tReference subsystem Marlovan_SX found in Group: Marlovan_SX
+  > | \t\t\tAll reference subsystems appear in the same group: Marlovan_SX
+  > 'NRB|Marlovan_SX10|x' => 4
+  > | \t\tAttached storage sub-system:
+  > | \t\tCheck subsystem: 'Marlovan_SX10' Attached subsystem: 'Marlovan_SX1'\t\t\t--> Invalid subsystem!
+  > # One of the models will do; those before the last are told with one more tab.
+  > 'NRB|A,Marlovan_SX1|x' => 0 ...
+  > | \t\t\tCheck subsystem: 'A' *!
+  > | \t\tCheck subsystem: 'Marlovan_SX1' *--> OK
+  > | \tAlready identified reference subsystems: Marlovan_SX1  Subsystem group: A,Marlovan_SX1
+  > | ...
+  > 'NRB|Marlovan_SX1,A|x' => 0 ...\n\t\t\tCheck subsystem: 'Marlovan_SX1' *--> OK\n\tAlready*\n...
+  > # An empty model before a comma allows all, as the last one none.
+  > 'NRB|A,,B|x' => 0 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck subsystem: ''*--> OK
+  > 'NRB|A,B,|x' => 4 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck*'B'*!\n\t\tCheck subsystem: ''*!
+  > # Each subsystem of the vendor is tried until a model allows the storage.
+  > 'NRB|X|x|NRB|Marlovan_S|x|NRB|Marlovan|x' => 0 *\n*'X'*!\n\t\tAtt*\n*'Marlovan_S'*--> OK\n*\n*\n*same group: Marlovan_S
+  > # After one that allows all, the others are still looked at: the last model is not.
+  > 'NRB| |x|NRB|Y,Z|x|NRB|Marlovan|x' => 0 \t\tAtt*\n\t\tAtt*\n*'Y'*!\n\t\tAtt*
+  > 'NRB|,|x|NRB|A|x' => 0 \t\tAtt*\n\t\t\tCheck subsystem: ''*--> OK\n\t\tAtt*
   > EOF

@@ -1,11 +1,9 @@
   $ . "$TESTDIR/setup.sh"
-  $ all='--flash -pci-id 19A2:0700' fx=--flash\ -pci-id\ 19A2:0700:1C3E:11C2 fm=--flash\ -pci-id\ 19A2:0700:1C3E:11C1
-  $ told() { real "$@"; status=$?; sed -n 's/download//p' cli/calls.log; return $status; }
 
 The firmware and, where one is named, the BIOS are written once for each adapter,
 through its flash port.
 
-  $ lay_standin && real $fm | tr '\t' '>'
+  $ lay_standin && real $FLASH_FM | tr '\t' '>'
   >Installed controller-device:
   >>Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: NIC PortNumber: 0 PortFunction: 0
   >>Port index: 0.
@@ -32,73 +30,150 @@ through its flash port.
   $ cat blade/FWtrace.out
   Downloaded blade/fm10102-4.6.142.10.ufi to 00:00:c9:a1:00:01
 
-Any other function does not count as the adapter's flash. A failing download ends
-the run, an image that is missing is found out before anything is written. A check
-beside it must pass first. What the shell would not read as one word is quoted.
+The downloads of a run: address and image.
 
-  $ odd() { d="blade/it's \$(FX)" && mv blade/CNA* "$d" && mv "$d"/fx-4* "$d/;a b.ufi" && sed -i "s/: CNA-10102-FX/: ${d#*/}/; s/: 00:00:c9:b2:00:01/: 00;b2/" cli/reports/local*; }
-  $ rows told lay_standin <<'EOF'
-  > --silent $all => 0 *b2:00:01] [[]blade/CNA-10102-FX/fx-4*ufi]\n*fx-b*grp]\n*a1:00:01] [[]blade/fm10*ufi]\n
-  > $fx => 0 *\tFirmware path: blade/CNA-10102-FX\n*\t\t\tBIOS file found: blade/CNA*grp\n\n\tNow start flashing the BIOS.\n*grp >> blade/CNA-10102-FX//FWtrace.out\n\n\t\tSuccess*
-  > -v 6 $fm => 0 *\t---*+\n\n\tFC_HBA_Conditions.txt:\n\tFound a matching controller-device in line 3:\n*
-  > --silent --flash -pci-id 19A2:0714:1C3E:11C1 => 0  [[]*a1:00:01]*\n [[]*a1:00:01]*]\n
-  > $all --simulate --silent => 13 sed:*
-  > echo 'exit 7' >cli/call18 :: $all => 10 *\t\tFail, flash command returned code 1792.\n\n [[]*ufi]\n
-  > echo 'exit 7' >cli/call19 :: --silent $all => 10 *ufi]\n*grp]\n
-  > rm blade/CNA-10102-FX/*.grp :: $all => 20 *fx-4.6.142.10.ufi '\*.ufi'\n\t\tLook for BIOS file: \*.grp\n\tNo BIOS- or firmware-image was found in \*.grp!\n
-  > rm blade/CNA-10102-FX/*.ufi :: $all => 20 *firmware file: \*.ufi\n\tNo BIOS- or firmware-image was found in \*.ufi!\n
-  > rm blade/fm* :: --silent $all => 20 *ufi]\n*grp]\n
-  > echo 'rm hbacmd' >cli/call17 :: $fx => 21 *Error: Flash command ./hbacmd is not available: No such file or directory\n\n
-  > echo 'rm blade/CNA-10102-FX/*.grp' >cli/call18 :: $all => 0 *\t\t\tBIOS file is not available: \*.grp\n\n\n*fx-4*]\n*fm*]\n
-  > echo 'mv blade old' >cli/call17 :: $fx => 20 *directory is not available: blade/\n\n
-  > rm -r blade/CNA* && : >blade/CNA-10102-FX :: $fx => 20 *Error: Firmware directory is not available: blade/CNA-10102-FX/\n\n
-  > --silent --flash --check-for-valid-subsystem -pci-id 19A2:0714:1C3E:11C2 => 4
-  > --silent --flash --ctrl-vendor-wide-identical -pci-id 19A2:0714 => 2
-  > -v 3 --flash --ctrl-wide-identical -pci-id 19A2:0714 => 0 *\t\tOverallFlashBladeEngine returned: 0 \n\n*fx-4*\n*fx-b*\n*fx-4*\n*fx-b*\n*fm*\n*fm*]\n
-  > --silent --flash --ctrl-wide-identical -pci-id 19A2:FFFF => 12
-  > sed -i 's/11C[12]/11C3/' blade/FC* :: $all => 0
-  > sed -i '/^Serial/s/VM2.*/n\/a/' cli/reports/local* :: $fx => 12 *System:\n\tFound an adequate installed controller-device:\n\t\tVendor:*SerialNumber: n/a*\n\t\tPort index: 0; Ignore this port due to missing serial number  => SKIP.\nSystem:*
-  > odd :: $fx => 0 *./hbacmd download '00;b2' 'blade/it'\\\\''s $(FX)/;a b.ufi' >> 'blade/it'\\\\''s $(FX)//FWtrace.out'\n*\n [[]00;b2] [[]blade/it's $(FX)/;a b.ufi]\n [[]00;b2] [[]blade/it's $(FX)/fx-b*]\n
-  > sed -i 's/CNA-10102-FX/.\/FX/' cli/reports/local* :: $fx => 20 *not available: blade/./FX\n\n\tFirmware path: blade/\n*found in \*.grp!\n
-  > sed -i 's/CNA-10102-FX/../' cli/reports/local* :: $fx => 20 *not available: blade/..\n\n\tFirmware path: blade/\n*
+  $ downloads() { real --silent "$@"; status=$?; sed -n 's/download //p' cli/calls.log; return $status; }
+  $ no_record_of_11C1() { sed -i 's/11C1/11C3/' $conditions; }
+  $ rows downloads lay_standin <<'EOF'
+  > # Adapters come in the order of their flash ports.
+  > $FLASH_BOTH => 0
+  > | [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]
+  > | [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-bios-4.6.141.grp]
+  > | [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]
+  > # Any function but the flash port does not count as the adapter's flash.
+  > --flash $FM => 0 [00:00:c9:a1:00:01] [*ufi]\n[00:00:c9:a1:00:01] [*ufi]
+  > # All four ids count for the record, even if the selection names two.
+  > no_record_of_11C1 :: $FLASH_BOTH => 0 *FX/fx-4*\n*FX/fx-b*
+  > # A check beside it must pass first.
+  > --flash --check-for-valid-subsystem $FX => 4
+  > --flash --ctrl-vendor-wide-identical $BOTH => 2
+  > --flash --ctrl-wide-identical $FX => 4
+  > --flash --ctrl-wide-identical $BOTH => 0 *fx-4*\n*fx-b*\n*fx-4*\n*fx-b*\n*fm10*\n*fm10*
+  > --flash --ctrl-wide-identical -pci-id 19A2:FFFF => 12
+  > # A download that fails ends the run.
+  > on download1 'exit 7' :: $FLASH_BOTH => 10 *FX/fx-4*
+  > on download2 'exit 7' :: $FLASH_BOTH => 10 *FX/fx-4*\n*FX/fx-b*
+  > # An image that is missing is found out before anything is written to its adapter.
+  > rm blade/CNA-10102-FX/*.grp :: $FLASH_BOTH => 20
+  > rm blade/CNA-10102-FX/*.ufi :: $FLASH_BOTH => 20
+  > rm blade/fm* :: $FLASH_BOTH => 20 *FX/fx-4*\n*FX/fx-b*
+  > # One that goes after that is left out.
+  > on download1 'rm blade/CNA-10102-FX/*.grp' :: $FLASH_BOTH => 0 *FX/fx-4*\n*fm10*
   > EOF
 
-The search takes a name prefix or an extension, never a hidden file.
+What a flash says.
 
+  $ fx_serial() { sed -i "/^Serial/s%VM2.*%$1%" cli/reports/local_hba_list.out; }
+  $ fx_model() { sed -i "s%CNA-10102-FX%$1%" cli/reports/local_hba_list.out; }
+  $ fx_images_are_a_file() { rm -r blade/CNA-10102-FX && : >blade/CNA-10102-FX; }
+  $ rows real lay_standin <<'EOF'
+  > $FLASH_FX => 0 ...
+  > | \tFirmware path: blade/CNA-10102-FX
+  > | \t\tLook for firmware file: *.ufi
+  > | ...
+  > | \t\tLook for BIOS file: *.grp
+  > | ...
+  > | \t\t\tBIOS file found: blade/CNA-10102-FX/fx-bios-4.6.141.grp
+  > |
+  > | \tNow start flashing the BIOS.
+  > | \t\tFlash command is: *
+  > | \t\t./hbacmd download 00:00:c9:b2:00:01 *grp >> blade/CNA-10102-FX//FWtrace.out
+  > |
+  > | \t\tSuccess*
+  > | ...
+  > -v 6 $FLASH_FM => 0 ...
+  > | \t---------+*
+  > |
+  > | \tFC_HBA_Conditions.txt:
+  > | \tFound a matching controller-device in line 3:
+  > | ...
+  > -v 3 --flash --ctrl-wide-identical $BOTH => 0 ...\n\t\tOverallFlashBladeEngine returned: 0*\n
+  > on download1 'exit 7' :: $FLASH_FM => 10 ...\n\t\tFail, flash command returned code 1792.\n
+  > # The run stops where it can't go on.
+  > rm blade/CNA-10102-FX/*.grp :: $FLASH_FX => 20 ...
+  > | \t\tFound*fx-4.6.142.10.ufi '*.ufi'
+  > | \t\tLook for BIOS file: *.grp
+  > | \tNo BIOS- or firmware-image was found in *.grp!
+  > on targetmapping5 'rm hbacmd' :: $FLASH_FX => 21 ...
+  > | Error: Flash command ./hbacmd is not available: No such file or directory
+  > |
+  > on targetmapping5 'mv blade old' :: $FLASH_FX => 20 ...\n\t\tFirmware directory is not available: blade/\n
+  > fx_images_are_a_file :: $FLASH_FX => 20 ...\nError: Firmware directory is not available: blade/CNA-10102-FX/\n
+  > on download1 'rm blade/CNA-10102-FX/*.grp' :: $FLASH_FX => 0 ...\n\t\t\tBIOS file is not available: *.grp\n\n\n...
+  > # A model never leads out of the directory.
+  > fx_model ./FX :: $FLASH_FX => 20 ...\n*not available: blade/./FX\n\n\tFirmware path: blade/\n...
+  > fx_model .. :: $FLASH_FX => 20 ...\n*not available: blade/..\n\n\tFirmware path: blade/\n...
+  > fx_serial n/a :: $FLASH_FX => 12 ...
+  > | System:
+  > | \tFound an adequate installed controller-device:
+  > | \t\tVendor:*SerialNumber: n/a*
+  > | \t\tPort index: 0; Ignore this port due to missing serial number  => SKIP.
+  > | System:
+  > | ...
+  > EOF
+
+What the shell would not read as one word is quoted, and arrives as it was.
+
+  $ odd_names() {
+  >     images="blade/it's \$(FX)" && mv blade/CNA-10102-FX "$images" && mv "$images"/fx-4* "$images/;a b.ufi"
+  >     fx_model "${images#*/}" && sed -i 's/: 00:00:c9:b2:00:01/: 00;b2/' cli/reports/local_hba_list.out
+  > }
+  $ rows real lay_standin <<'EOF'
+  > odd_names :: $FLASH_FX => 0 ...
+  > | \t\t./hbacmd download '00;b2' 'blade/it'\''s $(FX)/;a b.ufi' >> 'blade/it'\''s $(FX)//FWtrace.out'
+  > | ...
+  > EOF
+  $ rows downloads lay_standin <<'EOF'
+  > odd_names :: $FLASH_FX => 0
+  > | [00;b2] [blade/it's $(FX)/;a b.ufi]
+  > | [00;b2] [blade/it's $(FX)/fx-bios-4.6.141.grp]
+  > EOF
+
+The search takes a name prefix or an extension, never a hidden file: the pattern in the
+record, the files that there are, what is found.
+
+  $ long_name=$(printf %078d 0)
   $ search() {
   >     lay_blade && rm -r blade/*.ufi blade/CNA* && (cd blade && touch $2)
-  >     sed -i "s/| \*.ufi *| \*.grp/| $1 | /" blade/FC_HBA_Conditions.txt
-  >     simulated $fx | sed -n 's/.*Found.*image: //p; s/.*was found in/none/p'
+  >     sed -i "s/| \*.ufi *| \*.grp/| $1 | /" $conditions
+  >     simulated $FLASH_FX | sed -n 's/.*Found.*image: //p; s/.*was found in/none/p'
   > }
   $ rows search <<'EOF'
-  > '*.grp' 'a.GRP b.gr .c.grp grp' => 0 none \*.grp!\n
-  > '*.grp' 'x.grpx' => 0 blade/x.grpx '\*.grp'\n
-  > '*.tar.gz' 'x.tar.gz' => 0 none \*.tar.gz!\n
-  > 'AB' 'aAB .AB A AB1' => 0 blade/AB1 'AB'\n
-  > '.AB' '.AB' => 0 none .AB!\n
+  > '*.grp' 'a.GRP b.gr .c.grp grp' => 0 none *.grp!
+  > '*.grp' 'x.grpx' => 0 blade/x.grpx '*.grp'
+  > '*.tar.gz' 'x.tar.gz' => 0 none *.tar.gz!
+  > AB 'aAB .AB A AB1' => 0 blade/AB1 'AB'
+  > .AB .AB => 0 none .AB!
+  > # A pattern has up to 79 characters.
+  > ${long_name}1 ${long_name}2 => 0 none 0*1!
+  > ${long_name}12 ${long_name}1 => 0 blade/0*1 '0*1'
   > EOF
 
-A signal waits for the download that runs: it ends, and its result is told,
-before the tool ends, ahead of the next one. Not even a CLI with handlers of its own,
-or one whose reader has gone, is broken off. The inventory can be.
+A signal waits for the download that runs: it ends, and its result is told, before the
+tool ends, ahead of the next one. The inventory can be broken off.
 
   $ interrupted() {
-  >     lay_standin && echo "$2; echo finished >>cli/calls.log" >"cli/$1"
-  >     setsid sh -c 'echo $$ >cli/pid; exec env --default-signal "$0" --conpath blade '"$fm" "$CNATOOL_STANDIN" >out 2>&1
-  >     echo "=> $?" $(grep -o "Success, flash.*" out) $(tail -n 1 cli/calls.log)
+  >     lay_standin && on "$1" "$2; echo finished >>cli/calls.log"
+  >     setsid sh -c 'echo $$ >cli/pid; exec env --default-signal "$0" --conpath blade '"$FLASH_FX" "$CNATOOL_STANDIN" >out 2>&1
+  >     status=$?; grep -o "Success, flash.*" out; tail -n 1 cli/calls.log; return $status
   > }
-  $ for signal in INT TERM HUP QUIT; do interrupted call18 "kill -s $signal -- -\$(cat cli/pid) \$PPID \$\$; sleep 0.1"; done 2>/dev/null
-  => 130 Success, flash command returned code 0. finished
-  => 143 Success, flash command returned code 0. finished
-  => 129 Success, flash command returned code 0. finished
-  => 131 Success, flash command returned code 0. finished
-  $ interrupted call18 "sh -c 'trap \"exit 9\" INT TERM; kill -s INT -- -\$(cat cli/pid); sleep 0.1'"
-  => 130 Success, flash command returned code 0. finished
-  $ lay_standin && echo 'sleep 0.1; echo progress >&2 || :; echo finished >>cli/calls.log' >cli/call18
-  $ (told $fx 2>&1; echo "=> $?" >status) | head -n 1; cat status; tail -n 2 cli/calls.log | cut -c 1-20
+  $ to_all='kill -s $signal -- -$(cat cli/pid) $PPID $$; sleep 0.1'
+  $ own_handler="env --default-signal=INT sh -c 'trap \"exit 9\" INT; kill -s INT -- -\$(cat cli/pid); sleep 0.1'"
+  $ rows interrupted 2>/dev/null <<'EOF'
+  > download1 "signal=INT; $to_all" => 130 Success, flash command returned code 0.\nfinished
+  > download1 "signal=TERM; $to_all" => 143 Success, flash command returned code 0.\nfinished
+  > download1 "signal=HUP; $to_all" => 129 Success, flash command returned code 0.\nfinished
+  > download1 "signal=QUIT; $to_all" => 131 Success, flash command returned code 0.\nfinished
+  > # A download is out of the terminal's reach, even when the CLI has handlers of its own.
+  > download1 "$own_handler" => 130 Success, flash command returned code 0.\nfinished
+  > hbaattributes2 'kill -INT $(cat cli/pid); sleep 0.1' => 130 hbaattributes [10:00:00:00:c9:b2:00:12]
+  > EOF
+
+Nor is it broken off by a reader who has gone.
+
+  $ lay_standin && on download1 'sleep 0.1; echo progress >&2 || :; echo finished >>cli/calls.log'
+  $ (real $FLASH_FX 2>&1; echo "=> $?" >status) | head -n 1; cat status; tail -n 2 cli/calls.log | cut -c 1-20
   \tInstalled controller-device: (esc)
   => 0
   finished
   download [00:00:c9:b
-  $ interrupted call3 'kill -INT $(cat cli/pid); sleep 0.1'
-  => 130 hbaattributes [10:00:00:00:c9:b2:00:12]

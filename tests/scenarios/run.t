@@ -141,28 +141,13 @@ shown as ">", a divider by one of its groups.
   CtrlVendorSpecificSubsystemEquality: 1 
   CtrlSpecificSubsystemEquality: 1 
 
-Runs of the whole example: the lines of each level and of the debug log, and a
-checksum. A message or a gate that has moved is seen here.
+The lines of the whole example at each level, 0 to 6, and of the debug run's log: a message
+or a gate that has moved is seen here.
 
-  $ lay_blade && selection='-pci-id 19A2:0714'
-  $ profile $selection
-  0 64 82 95 219 224 824 795, 905387853 72769
-  $ profile --ctrl-wide-identical --ctrl-vendor-wide-identical $selection:1C3E:11C1
-  0 32 40 53 117 122 680 651, 4286484425 45473
-  $ profile --flash -pci-id 19A2:0700
-  0 54 54 60 112 117 693 664, 1072118701 44931
-  $ profile -pci-id 19A2:0712:1C3E:11D0,10DF:F100
-  0 0 0 13 65 70 633 599, 436494938 30310
-  $ profile --flash --check-for-valid-subsystem -vid 19A2,19A2 -dev 0714,0700 -subvid 1C3E -subdev 11C1
-  0 44 56 77 219 224 843 811, 210623226 71125
-  $ sed -i 's/\(^Serial No.*\): VM1.*/\1: n\/a/' blade/local_hba_list.out
-  $ profile $selection
-  0 38 46 59 139 144 624 595, 3417425305 50581
-  $ profile --flash -pci-id 19A2:0700
-  0 53 53 59 103 108 564 535, 1007206024 42447
-  $ rm blade/VM20713302_3_target_mapping.out && profile --ctrl-wide-identical $selection
-  0 27 31 44 120 125 553 524, 1721085107 43706
-  $ echo '# none' >blade/FC_HBA_Conditions.txt && rm blade/VM20713302_2_hba_attributes.out && profile $selection
-  0 1 1 14 36 36 256 241, 2383008433 14293
-  $ rm blade/FC_HBA_Conditions.txt && profile $selection
-  0 4 4 8 8 8 13 5, 1076371069 1376
+  $ lay_blade && lines_by_level --ctrl-wide-identical --ctrl-vendor-wide-identical $BOTH
+  0 64 82 95 219 224 824 795
+  $ lines_by_level $FLASH_BOTH
+  0 54 54 60 112 117 693 664
+  $ without_serial() { sed -i '/^Serial/s/VM1.*/n\/a/' blade/local_hba_list.out; }
+  $ without_serial && lines_by_level $BOTH
+  0 38 46 59 139 144 624 595
