@@ -51,40 +51,39 @@ ignore nothing, and neither finds a signal blocked.
   $ lay_standin && on download1 'head -c 99999 /dev/zero 2>/dev/null' && (ulimit -f 8 && real -v 6 $FLASH_FM >out; echo "=> $?")
   => 10
 
-Nothing is written to what is no regular file with one name; a run that meets it neither
-hangs nor takes it for a report.
+What is no regular file with one name is no report: it is removed and nothing is written
+through it. The trace, which is appended to, is left alone and its command not run.
 
   $ meets() {
-  >     for put in mkfifo 'ln -s ../secret' 'ln secret'; do
-  >         lay_standin && echo precious >secret && $put "blade/$1"
-  >         timeout 9 "$CNATOOL_STANDIN" --conpath blade -v 6 $FLASH_FM >out; echo "=> $?"
-  >         grep -o -e 'returned code -.*' -e '^Error.*' -e '^No Blade' out; cat secret
-  >     done | sort | uniq -c
+  >     lay_standin && report=blade/VM10250117_0_hba_attributes.out && trace=blade/FWtrace.out && echo precious >secret
+  >     "$@" && timeout 9 "$CNATOOL_STANDIN" --conpath blade -v 6 $FLASH_FM >out; status=$?
+  >     grep -o -e 'returned code -.*' -e '^Error.*' out; cat secret; return $status
   > }
-  $ meets FWtrace.out
-        3 => 10
-        3 precious
-        3 returned code -1.
-  $ meets local_hba_list.out
-        3 => 0
-        3 precious
-  $ meets VM10250117_0_hba_attributes.out
-        3 => 0
-        3 precious
-        3 returned code -1.
-  $ lay_standin && mkdir blade/FWtrace.out && real $FLASH_FM 2>&1 | grep -o 'returned code.*'
-  returned code 512.
+  $ rows meets <<'EOF'
+  > eval 'mkfifo $report' => 0 precious
+  > eval 'ln -s ../secret $report' => 0 precious
+  > eval 'ln secret $report' => 0 precious
+  > eval 'ln -s ../secret blade/local_hba_list.out' => 0 precious
+  > eval 'mkdir $report' => 12 returned code -1.\nError: Could not open file blade//VM10250117_0_hba_attributes.out\nprecious
+  > eval 'mkfifo $trace' => 10 returned code -1.\nprecious
+  > eval 'ln -s ../secret $trace' => 10 returned code -1.\nprecious
+  > eval 'ln secret $trace' => 10 returned code -1.\nprecious
+  > eval 'mkdir $trace' => 10 returned code -1.\nprecious
+  > EOF
 
-A report is emptied before its command runs.
+A report is emptied before its command runs; where that can't be done, as with the file of a
+running program, the report of an earlier run does not count.
 
-  $ lay_standin && touch blade/local_hba_list.out && chmod 666 blade/local_hba_list.out
-  $ on listhbas1 'wc -c <blade/local_hba_list.out >&2; exec cat cli/reports/local_hba_list.out'
-  $ echo stale >blade/local_hba_list.out && (umask 0 && quiet $FLASH_FM) && find blade -type f -perm /022
+  $ lay_standin && echo stale >blade/local_hba_list.out
+  $ on listhbas1 'wc -c <blade/local_hba_list.out >&2' && quiet $FLASH_FM
   0
   => 0
-  blade/local_hba_list.out
+  $ mapping=blade/VM10250117_3_target_mapping.out
+  $ lay_standin && cp "$(command -v sleep)" $mapping && cat cli/reports/VM20713302_3_target_mapping.out >>$mapping
+  $ $mapping 9 & sleep 0.1; real $FM 2>&1 | grep -e Error -e NRB; kill $!
+  Error: Could not open file blade//VM10250117_3_target_mapping.out
 
-What can't be read to its end counts for nothing.
+A read error ends the reading as a file that can't be opened does.
 
   $ spoilt() { lay_blade && ln -sf /proc/self/mem "blade/$1" && simulated -v 1 $FLASH_FM; }
   $ rows spoilt <<'EOF'
@@ -105,7 +104,7 @@ A terminal is told what the tool waits for, which is wiped; a file never.
   $ lay_standin && watched $FLASH_FM | tr '\r' '~' >out; head -c 28 out; tr '~' '\n' <out | grep -e '^port 5' -e '^down'
   ~adapter list~~            ~port 5 of 11: attributes
   port 5 of 11: target mapping
-  download of the firmware
+  download of the firmware, Ctrl-C takes effect at its end
   $ watched --silent; watched -v 0; watched -d 1; real $FLASH_FM 2>&1 | grep -c 'of 11'
   0
   [1]
