@@ -18,10 +18,16 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
 namespace {
+
+// A name for a file of this process.
+std::string scratch_path(const char* name) {
+    return testing::TempDir() + "cnatool_test_" + std::to_string(getpid()) + "_" + name;
+}
 
 using Rows = std::initializer_list<std::pair<const char*, const char*>>;
 
@@ -67,7 +73,7 @@ TEST(Diagnostics, LevelsAndScreenDecideWhereAMessageGoes) {
 
 // Every line of the file counts for its number, the text is the stored one.
 TEST(Conditions, RefusalNamesLineColumnAndStoredText) {
-    const std::string path = testing::TempDir() + "cnatool_test_conditions";
+    const std::string path = scratch_path("conditions");
     set_levels(1, 0, 1);
     for (const auto& [columns, refusal] :
          Rows{{"E|M|19A2|0714|1C3E|nothex7", "Sub-System-Id nothe"},
@@ -87,7 +93,7 @@ bool reading_fails = false;
 // The reports of one port, of the example's, in a directory of their own.
 class Reports : public testing::Test {
 protected:
-    Reports() : directory_(testing::TempDir() + "cnatool_test_reports") {
+    Reports() : directory_(scratch_path("reports")) {
         set_levels(0, 0, 0);
         active_option_simulate = 1;
         std::filesystem::create_directories(directory_);

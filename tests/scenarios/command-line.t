@@ -16,14 +16,10 @@ place, so that a checksum does.
   > --silent --version => 0
   > -d 6 --version => 0
   > --show-return-codes => 0
-  > |
-  > | List of possible return codes
-  > |
-  > |    Valid return codes
-  > |
-  > |    RET_OK                                   0
-  > |    RET_NOT_CTRL_WIDE_IDENTICAL              1
-  > | ...
+  > | \nList of possible return codes
+  > | \n   Valid return codes
+  > | \n   RET_OK                                   0
+  > |    RET_NOT_CTRL_WIDE_IDENTICAL              1\n...
   > --show-return-code => 0 \nList of possible return codes\n...
   > --show-return-codesx => 3 \n\nInvalid argument*\n
   > EOF
@@ -82,8 +78,7 @@ Options that need, or exclude, each other.
   $ rows tool <<'EOF'
   > -vid 1 -vn A -mod M => 3
   > |
-  > |
-  > | Combining options "-vid", "-subvid", "-dev", "-subdev" together with option "-vn" is not supported.\t!
+  > | \nCombining options "-vid", "-subvid", "-dev", "-subdev" together with option "-vn" is not supported.\t!
   > -subdev 1 -mod M => 3 \n\nCombining options*"-mod" is not supported.\t!
   > -mod M => 3 \n\nPlease, also specify vendor-names (option "-vn")\n, if using option "-mod"!
   > -dev 1 => 3 \n\nPlease, also specify one or more vendor-ids*"-vid")\n*"-dev"!
@@ -100,10 +95,8 @@ The selection lists, as they are echoed before the missing conditions file ends 
   > -v 5 -pci-id 1:2 => 15 \nList of input pci-ids: "1:2"
   > # Colons in a row are one, and two commas in a row end the list.
   > -v 6 -pci-id 0x19a2::0710:1C3E:11C1:,,1:2 => 15
-  > |
-  > | List of input pci-ids: "0x19a2::0710:1C3E:11C1:,,1:2"
-  > |
-  > | \tVendor-Id 0x19a2
+  > | \nList of input pci-ids: "0x19a2::0710:1C3E:11C1:,,1:2"
+  > | \n\tVendor-Id 0x19a2
   > | \tDevice-Id 0x710
   > | \tSubVendor-Id 0x1c3e
   > | \tSubDevice-Id 0x11c1
@@ -167,9 +160,7 @@ program as it was typed, or in the current directory when it was found by its ba
   > $d/$d/$d/$d name => 3 \n\nPath*\n
   > . sh -c 'mkdir gone && cd gone && rmdir ../gone && name' => 3
   > |
-  > |
-  > | Cannot determine the current directory: No such file or directory
-  > |
+  > | \nCannot determine the current directory: No such file or directory\n
   > EOF
   $ for TMPDIR in "" /var/tmp; do export TMPDIR; tool -v 3 --conpath none | head -n 1; done
   env: Environment variable TMPDIR is empty.

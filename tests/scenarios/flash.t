@@ -69,24 +69,17 @@ What a flash says.
   $ rows real lay_standin <<'EOF'
   > $FLASH_FX => 0 ...
   > | \tFirmware path: blade/CNA-10102-FX
-  > | \t\tLook for firmware file: *.ufi
-  > | ...
-  > | \t\tLook for BIOS file: *.grp
-  > | ...
+  > | \t\tLook for firmware file: *.ufi\n...
+  > | \t\tLook for BIOS file: *.grp\n...
   > | \t\t\tBIOS file found: blade/CNA-10102-FX/fx-bios-4.6.141.grp
-  > |
-  > | \tNow start flashing the BIOS.
+  > | \n\tNow start flashing the BIOS.
   > | \t\tFlash command is: *
   > | \t\t./hbacmd download 00:00:c9:b2:00:01 *grp >> blade/CNA-10102-FX//FWtrace.out
-  > |
-  > | \t\tSuccess*
-  > | ...
+  > | \n\t\tSuccess*\n...
   > -v 6 $FLASH_FM => 0 ...
   > | \t---------+*
-  > |
-  > | \tFC_HBA_Conditions.txt:
-  > | \tFound a matching controller-device in line 3:
-  > | ...
+  > | \n\tFC_HBA_Conditions.txt:
+  > | \tFound a matching controller-device in line 3:\n...
   > -v 3 --flash --ctrl-wide-identical $BOTH => 0 ...\n\t\tOverallFlashBladeEngine returned: 0*\n
   > on download1 'exit 7' :: $FLASH_FM => 10 ...\n\t\tFail, flash command returned code 1792.\n
   > # The run stops where it can't go on.
@@ -95,8 +88,7 @@ What a flash says.
   > | \t\tLook for BIOS file: *.grp
   > | \tNo BIOS- or firmware-image was found in *.grp!
   > on targetmapping5 'rm hbacmd' :: $FLASH_FX => 21 ...
-  > | Error: Flash command ./hbacmd is not available: No such file or directory
-  > |
+  > | Error: Flash command ./hbacmd is not available: No such file or directory\n
   > on targetmapping5 'mv blade old' :: $FLASH_FX => 20 ...\n\t\tFirmware directory is not available: blade/\n
   > fx_images_are_a_file :: $FLASH_FX => 20 ...\nError: Firmware directory is not available: blade/CNA-10102-FX/\n
   > on download1 'rm blade/CNA-10102-FX/*.grp' :: $FLASH_FX => 0 ...\n\t\t\tBIOS file is not available: *.grp\n\n\n...
@@ -108,8 +100,7 @@ What a flash says.
   > | \tFound an adequate installed controller-device:
   > | \t\tVendor:*SerialNumber: n/a*
   > | \t\tPort index: 0; Ignore this port due to missing serial number  => SKIP.
-  > | System:
-  > | ...
+  > | System:\n...
   > EOF
 
 What the shell would not read as one word is quoted, and arrives as it was.
@@ -120,8 +111,7 @@ What the shell would not read as one word is quoted, and arrives as it was.
   > }
   $ rows real lay_standin <<'EOF'
   > odd_names :: $FLASH_FX => 0 ...
-  > | \t\t./hbacmd download '00;b2' 'blade/it'\''s $(FX)/;a b.ufi' >> 'blade/it'\''s $(FX)//FWtrace.out'
-  > | ...
+  > | \t\t./hbacmd download '00;b2' 'blade/it'\''s $(FX)/;a b.ufi' >> 'blade/it'\''s $(FX)//FWtrace.out'\n...
   > EOF
   $ rows downloads lay_standin <<'EOF'
   > odd_names :: $FLASH_FX => 0

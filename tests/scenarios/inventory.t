@@ -29,23 +29,16 @@ A list that can't be had ends the inventory, any other command that fails is onl
 
   $ rows real lay_standin <<'EOF'
   > on listhbas1 'exit 3' :: -v 4 => 13 ...
-  > |
-  > | Fail, "hbacmd listhbas" command returned code 768.
-  > |
-  > | No Blade*
-  > |
+  > | \nFail, "hbacmd listhbas" command returned code 768.
+  > | \nNo Blade*\n
   > on listhbas1 'exit 3' :: -v 3 => 13 env*\nHBA*\n\nNo Blade*\n
   > # Half a list counts for nothing.
   > on listhbas1 'cat cli/reports/local_hba_list.out; exit 3' :: -v 1 => 13 \nNo Blade*\n
   > on hbaattributes1 'exit 3' :: -v 6 $BOTH => 0 ...
-  > |
-  > | \t\tFail, "hbacmd hbaattributes 10:00:00:00:c9:b2:00:11" command returned code 768.
-  > | ...
+  > | \n\t\tFail, "hbacmd hbaattributes 10:00:00:00:c9:b2:00:11" command returned code 768.\n...
   > on targetmapping3 'exit 1' :: -v 6 $BOTH => 0 ...
   > |
-  > |
-  > | \t\t\tFail, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 256.
-  > | ...
+  > | \n\t\t\tFail, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 256.\n...
   > # A port with an empty report sees no storage; level 1 does not tell why.
   > on targetmapping3 'exit 1' :: -v 1 $FM => 0 \n\t\t---*\n\n\t\tPerform*\n*function: 2\n\n\n\t\t---*\n...
   > rm hbacmd :: -v 1 => 13 \t\tCommand ./hbacmd is not available!\n\n\nNo Blade*\n
@@ -70,13 +63,11 @@ blanks, tabs and quotes around it do not count.
   > # What comes before the first port belongs to none; a port may begin without a value.
   > 'Serial No.: nobody\nPort WWN\nNode WWN\nMode: a Mode\n' => 22 \ta Mode\n
   > 'Permanent MAC: "10:22:33:44:55:66:77"\nFlags:\nHost Name:\t x \nMfg:Emulex\nModel:M\n' => 22
-  > |
-  > | 1)\tPermanentMAC: 10:22:33:44:55:66:77
+  > | \n1)\tPermanentMAC: 10:22:33:44:55:66:77
   > | \t
   > | \tx
   > | \tmulex
-  > | \t
-  > |
+  > | \t\n
   > # A line belongs to the first label that it begins with.
   > 'Port WWN: w\nModeling: a Model\nPort WWN: w\n' => 22 \n1)\tPortWWN: w\n\ta Model\n\n2)\tPortWWN: w\n
   > # A line of more than 1,023 characters is read in pieces.
@@ -99,26 +90,18 @@ The lines of attributes and target mappings, likewise, of FM's first port.
   > # What comes before the title is not read, another title begins anew, and a line
   > # without a colon tells what there is.
   > 'Model: M\nHBA Attributes for x\nDevice ID: 0714\nHBA Attributes for x\nModel: M\nModel Desc: D\nDevice ID\n' => 0
-  > |
-  > | \t\tHBA Attributes for 10:00:00:00:c9:a1:00:11
-  > |
-  > | \t\t0714
-  > |
-  > | \t\tHBA Attributes for 10:00:00:00:c9:a1:00:11
-  > |
-  > | \t\tM
-  > | \t\t
-  > |
+  > | \n\t\tHBA Attributes for 10:00:00:00:c9:a1:00:11
+  > | \n\t\t0714
+  > | \n\t\tHBA Attributes for 10:00:00:00:c9:a1:00:11
+  > | \n\t\tM
+  > | \t\t\n
   > # A number is read from the whole value, of which four characters are kept.
   > 'HBA Attributes for\nVendor Spec ID: 00019A2\nDevice ID: 714\nSub Device ID: "11C1"\nSub Vendor ID: 1c3e\n' => 0
-  > |
-  > | \t\tHBA Attributes for 10:00:00:00:c9:a1:00:11
-  > |
-  > | \t\t0001
+  > | \n\t\tHBA Attributes for 10:00:00:00:c9:a1:00:11
+  > | \n\t\t0001
   > | \t\t714
   > | \t\t11C1
-  > | \t\t1c3e
-  > |
+  > | \t\t1c3e\n
   > 'HBA Attributes for\nDevice ID: 10000000000000000\n' => 1 strtoul*\n\n*HBA Attributes for*\n
   > EOF
   $ rows mapping <<'EOF'
@@ -130,8 +113,7 @@ The lines of attributes and target mappings, likewise, of FM's first port.
   > | \t\t\t1234
   > | \t\t\tNRB
   > | \t\t\tDGC
-  > | \t\t\tDGC
-  > |
+  > | \t\t\tDGC\n
   > EOF
 
 A type that begins with "FC" is called by its MAC, and told by its world-wide name.

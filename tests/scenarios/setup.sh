@@ -58,9 +58,8 @@ try_row() {
     status=${expected%%[!0-9]*} expected=${expected#"${expected%%[!0-9]*}"}
     case $expected in '\n'*) expected=${expected#??} ;; *) expected=${expected# } ;; esac
     difference=$({ eval "$1 $words" 2>&1 </dev/null; echo "=> $?"; } |
-        row_status=$status row_output=$expected awk -f "$TESTDIR/difference.awk") && return
-    failures=$((failures + 1))
-    [ "$failures" -gt 3 ] || printf '%s\n%s\n' "Row at $(date +%T.%N): $head" "$difference"
+        row_status=$status row_output=$expected awk -f "$TESTDIR/difference.awk") || failures=$((failures + 1))
+    [ -z "$difference" ] || [ "$failures" -gt 3 ] || printf '%s\n' "Row at $(date +%T.%N): $head" "$difference"
 }
 
 # Tells how many lines a run prints at each level, 0 to 6, and how many a debug run logs.
