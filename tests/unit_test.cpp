@@ -90,85 +90,78 @@ TEST(Conditions, RefusalNamesLineColumnAndStoredText) {
 // Whether the files that are read seem to end with a read error.
 bool reading_fails = false;
 
-// The reports of one port, of the example's, in a directory of their own.
+// Reports that are read in a directory of their own.
 class Reports : public testing::Test {
 protected:
-    Reports() : directory_(scratch_path("reports")) {
+    Reports() {
         set_levels(0, 0, 0);
         active_option_simulate = 1;
-        std::filesystem::create_directories(directory_);
-        copy_text(pHBAWorkingPath, directory_);
+        std::filesystem::create_directory(directory);
+        copy_text(pHBAWorkingPath, directory);
     }
     ~Reports() override {
-        reading_fails = false;
         release_hba_info_list();
-        std::filesystem::remove_all(directory_);
+        std::filesystem::remove_all(directory);
     }
 
-    // Lays the first record of a report, which begins with the label `first`: each line bears its
-    // own number and label as its value. Returns these values.
-    std::vector<std::string> lay(const std::string& example, const std::string& first,
-                                 const char* name) const {
-        std::ifstream lines(CNATOOL_EXAMPLE "/" + example);
-        std::ofstream report(directory_ + "/" + name);
-        std::vector<std::string> values;
-        for (std::string line; std::getline(lines, line);) {
-            if (values.empty() && !line.starts_with(first)) {
-                report << line << "\n";
-                continue;
-            }
-            const std::size_t colon = line.find(':');
-            if (colon == std::string::npos) {
-                break;
-            }
-            const std::string label = line.substr(0, line.find_last_not_of(' ', colon - 1) + 1);
-            values.push_back(std::to_string(values.size() + 10) + " " + label);
-            report << line.substr(0, colon) << ": " << values.back() << "\n";
+    // Makes a report of `title` and, in lines of their own, labels with themselves as the values.
+    void lay(const char* name, const char* title, const char* labels) const {
+        std::ofstream report(directory + "/" + name);
+        report << title;
+        for (const std::string_view label : split(labels, ',')) {
+            report << label << ": " << label << "\n";
         }
-        return values;
     }
 
-    std::string directory_;
+    const std::string directory = scratch_path("reports");
 };
 
-// A record's texts stand in the order of the report's labels: what is in it, one text after the
-// other, must be the values in their order, each cut to its field.
-void expect_texts(const void* record, std::size_t size, const std::vector<std::string>& values) {
+// A record has its texts in the order of the labels: they must be these, each cut to its field.
+void expect_texts(const void* record, std::size_t size, const char* labels) {
     const char* text = static_cast<const char*>(record);
     const char* const end = text + size;
-    for (const std::string& value : values) {
+    for (const std::string_view label : split(labels, ',')) {
         text = std::find_if(text, end, [](char c) { return c != '\0'; });
         const std::string field(text, std::find(text, end, '\0'));
-        ASSERT_TRUE(!field.empty() && value.starts_with(field))
-            << "the field of \"" << value << "\" holds \"" << field << "\"";
+        ASSERT_TRUE(!field.empty() && label.starts_with(field)) << field << " for " << label;
         text += field.size();
     }
 }
 
 TEST_F(Reports, EveryLabelFillsItsField) {
-    const auto listed = lay("local_hba_list.out", "Port WWN", "local_hba_list.out");
+    const char* labels = "Port WWN,Node WWN,Fabric Name,Current MAC,Flags,Host Name,Mfg,Serial No,"
+                         "Port Number,Mode,PCI Bus Number,PCI Function,Port Type,Model";
+    lay("local_hba_list.out", "", labels);
     ASSERT_EQ(read_adapter_list(), 0);
     hba_info& port = **p_hba_info_list;
-    expect_texts(&port, offsetof(hba_info, attributes), listed);
-    copy_text(port.serial_no, "S");
-    copy_text(port.pci_function, "2");
-    copy_text(port.port_type, "FCoE");
-    auto attributes = lay("VM10250117_2_hba_attributes.out", "Host Name", "S_2_hba_attributes.out");
-    // The record has these two the other way round.
-    std::swap(*std::ranges::find(attributes, "39 Start-up Boot Code Version"),
-              *std::ranges::find(attributes, "40 NCSI Version"));
+    expect_texts(&port, offsetof(hba_info, attributes), labels);
+
+    labels =
+        "Host Name,Manufacturer,Serial Number,Model,Model Desc,Node WWN,Node Symname,HW Version,"
+        "FW Version,Vendor Spec ID,Number of Ports,Driver Name,Device ID,HBA Type,Operational FW,"
+        "IEEE Address,PXE Boot,Driver Version,Board Temperature,Function Type,Sub Device ID,"
+        "Port Number,PCI Bus Number,PCI Func Number,Sub Vendor ID,Firmware Status,"
+        "Service Processor FW Name,ULP FW Name,IPL Filename,NCSI Version,"
+        "Start-up Boot Code Version,FCoE Universal Version,FCoE x86 BIOS Version,"
+        "FCoE EFI Version,FCoE FCODE Version,UEFI BIOS Version,UEFI NIC Version,"
+        "UEFI FCODE Version,UEFI iSCSI Version,PCI Express Link Speed,PCI Express Bus Width";
+    lay("Serial No_PCI_hba_attributes.out", "HBA Attributes for x\n", labels);
     ASSERT_EQ(read_attributes(port, ""), 0);
-    expect_texts(port.attributes, offsetof(hba_attributes_entry, vendor_spec_id_val), attributes);
-    const auto mapping =
-        lay("VM10250117_2_target_mapping.out", "FCP LUN", "S_2_target_mapping.out");
+    expect_texts(port.attributes, offsetof(hba_attributes_entry, vendor_spec_id_val), labels);
+
+    labels = "FCP LUN,SCSI OS Lun,Lun Device Name,Vendor ID,Product ID,Product Version,Type,"
+             "SCSI Capacity,Block Size";
+    lay("Serial No_PCI_target_mapping.out", "Target Mapping for x\n\n\n\n", labels);
+    copy_text(port.port_type, "FCoE");
     ASSERT_EQ(read_target_mapping(port, ""), 0);
-    expect_texts(port.target_mapping, sizeof(target_mapping_entry), mapping);
+    expect_texts(port.target_mapping, sizeof(target_mapping_entry), labels);
 }
 
 TEST_F(Reports, WhatWasReadBeforeAReadErrorStays) {
-    lay("local_hba_list.out", "Port WWN", "local_hba_list.out");
+    lay("local_hba_list.out", "", "Port WWN");
     reading_fails = true;
     EXPECT_EQ(read_adapter_list(), report_not_opened);
+    reading_fails = false;
     EXPECT_NE(p_hba_info_list, nullptr);
 }
 
