@@ -9,13 +9,16 @@
 #include "inventory/target_mapping.h"
 #include "run/base/diagnostics.h"
 #include "run/base/settings.h"
+#include "run/driver.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -165,6 +168,20 @@ TEST_F(Reports, WhatWasReadBeforeAReadErrorStays) {
     EXPECT_NE(p_hba_info_list, nullptr);
 }
 
+bool memory_is_exhausted = false;
+
+TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
+    const auto run = [] {
+        std::string words[] = {"./cnatool", "-pci-id", "19A2:0714:1C3E:11C1"};
+        char* argv[] = {words[0].data(), words[1].data(), words[2].data()};
+        dup2(STDERR_FILENO, STDOUT_FILENO);
+        memory_is_exhausted = true;
+        run_tool(3, argv);
+    };
+    EXPECT_EXIT(run(), testing::ExitedWithCode(54),
+                "^Error: cnatool, Memory allocation failed!\n$");
+}
+
 // Makes the list of ports, each written as its serial number ("?" is missing), the
 // first letter of its type, its function and, after a slash, its number.
 void lay_ports(const char* list) {
@@ -244,6 +261,19 @@ TEST(Ports, AreChainedFromTheFlashPort) {
 } // namespace
 
 // In place of the library's.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    return memory_is_exhausted ? nullptr : std::malloc(size);
+}
+void* operator new(std::size_t size) {
+    void* const memory = operator new(size, std::nothrow);
+    return memory == nullptr ? throw std::bad_alloc() : memory;
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
 extern "C" int ferror(std::FILE* /*file*/) noexcept {
     return reading_fails ? 1 : 0;
 }

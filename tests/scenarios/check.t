@@ -162,6 +162,9 @@ vendor, models, extra.
   > | \t\tCheck subsystem: 'Marlovan_SX1' *--> OK
   > | \tAlready identified reference subsystems: Marlovan_SX1  Subsystem group: A,Marlovan_SX1\n...
   > 'NRB|Marlovan_SX1,A|x' => 0 ...\n\t\t\tCheck subsystem: 'Marlovan_SX1' *--> OK\n\tAlready*\n...
+  > # The list is judged whole, however long; product names count whole, too.
+  > 'NRB|Marlovan_A1,Marlovan_B1,Marlovan_S|x' => 0 ...\n\t\tCheck subsystem: 'Marlovan_S' *--> OK\n...
+  > 'NRB|Marlovan_A1,Marlovan_SX12|x' => 4 ...\n\t\tCheck subsystem: 'Marlovan_SX12' *--> Invalid subsystem!
   > # An empty model before a comma allows all, as the last one none.
   > 'NRB|A,,B|x' => 0 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck subsystem: ''*--> OK
   > 'NRB|A,B,|x' => 4 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck*'B'*!\n\t\tCheck subsystem: ''*!

@@ -148,12 +148,15 @@ tool ends, ahead of the next one. The inventory can be broken off.
   >     status=$?; grep -o "Success, flash.*" out; tail -n 1 cli/calls.log; return $status
   > }
   $ to_all='kill -s $signal -- -$(cat cli/pid) $PPID $$; sleep 0.1'
+  $ to_tool='kill -s $signal $(cat cli/pid); sleep 0.1'
   $ own_handler="env --default-signal=INT sh -c 'trap \"exit 9\" INT; kill -s INT -- -\$(cat cli/pid); sleep 0.1'"
   $ rows interrupted 2>/dev/null <<'EOF'
   > download1 "signal=INT; $to_all" => 130 Success, flash command returned code 0.\nfinished
   > download1 "signal=TERM; $to_all" => 143 Success, flash command returned code 0.\nfinished
   > download1 "signal=HUP; $to_all" => 129 Success, flash command returned code 0.\nfinished
   > download1 "signal=QUIT; $to_all" => 131 Success, flash command returned code 0.\nfinished
+  > download1 "signal=USR1; $to_tool" => 138 Success, flash command returned code 0.\nfinished
+  > download1 "signal=ALRM; $to_tool" => 142 Success, flash command returned code 0.\nfinished
   > # A download is out of the terminal's reach, even when the CLI has handlers of its own.
   > download1 "$own_handler" => 130 Success, flash command returned code 0.\nfinished
   > hbaattributes2 'kill -INT $(cat cli/pid); sleep 0.1' => 130 hbaattributes [10:00:00:00:c9:b2:00:12]
