@@ -10,15 +10,14 @@
 #include "run/base/diagnostics.h"
 #include "run/base/settings.h"
 #include "run/driver.h"
+#include "tests/failing_library.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <new>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -89,9 +88,6 @@ TEST(Conditions, RefusalNamesLineColumnAndStoredText) {
     }
     static_cast<void>(std::remove(path.c_str()));
 }
-
-// Whether the files that are read seem to end with a read error.
-bool reading_fails = false;
 
 // Reports that are read in a directory of their own.
 class Reports : public testing::Test {
@@ -167,8 +163,6 @@ TEST_F(Reports, WhatWasReadBeforeAReadErrorStays) {
     reading_fails = false;
     EXPECT_NE(p_hba_info_list, nullptr);
 }
-
-bool memory_is_exhausted = false;
 
 TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
     const auto run = [] {
@@ -259,21 +253,3 @@ TEST(Ports, AreChainedFromTheFlashPort) {
 }
 
 } // namespace
-
-// In place of the library's.
-void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
-    return memory_is_exhausted ? nullptr : std::malloc(size);
-}
-void* operator new(std::size_t size) {
-    void* const memory = operator new(size, std::nothrow);
-    return memory == nullptr ? throw std::bad_alloc() : memory;
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t /*size*/) noexcept {
-    std::free(memory);
-}
-extern "C" int ferror(std::FILE* /*file*/) noexcept {
-    return reading_fails ? 1 : 0;
-}
