@@ -256,12 +256,11 @@ void look_at_flash(const SurveyedFlash& flash, bool selected, std::vector<PortNo
 }
 
 bool is_flash_port(const hba_info& port) {
+    bool found = false;
     for (const hba_info& other : all_ports()) {
-        if (other.flash_port == &port) {
-            return true;
-        }
+        found = found || other.flash_port == &port;
     }
-    return false;
+    return found;
 }
 
 // Whether the port is to be listed. One whose ids are not known is: it could be meant.

@@ -35,12 +35,11 @@ void remove_fibre_channel_ports() {
 }
 
 bool any_port_of(const char* type) {
+    bool found = false;
     for (const hba_info& port : all_ports()) {
-        if (has_type(port, type)) {
-            return true;
-        }
+        found = found || has_type(port, type);
     }
-    return false;
+    return found;
 }
 
 bool next_matches(Slot p) {
