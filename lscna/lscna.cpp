@@ -144,25 +144,31 @@ const char* no_list_reason(std::int32_t result) {
     }
 }
 
+// The first report of all ports that can't be opened; empty when there is none.
+std::string missing_report() {
+    // In the order of the inventory: the attributes of all ports come first.
+    for (const char* name : {attributes_report, mapping_report}) {
+        for (const hba_info& port : all_ports()) {
+            const std::string path = report_file(port, name).path;
+            const bool taken =
+                !serial_missing(port) && (name == attributes_report || is_fcoe_or_fc(port));
+            if (taken && open_text_file(path.c_str()) == nullptr) {
+                return path;
+            }
+        }
+    }
+    return "";
+}
+
 // Why the inventory has not come to its end; empty when it has.
 std::string inventory_end(std::int32_t result) {
     if (result == RET_OK) {
         return "";
     }
-    for (const hba_info& port : all_ports()) {
-        for (const char* name : {attributes_report, mapping_report}) {
-            const std::string path = report_file(port, name).path;
-            const bool taken =
-                !serial_missing(port) && (name == attributes_report || is_fcoe_or_fc(port));
-            if (taken && open_text_file(path.c_str()) == nullptr) {
-                return "the inventory ended at " + path +
-                       ", which can't be opened: ports after it are not known, and a check passes "
-                       "them";
-            }
-        }
-    }
-    return "the inventory ended at a report that can't be read: ports after it are not known, and "
-           "a check passes them";
+    const std::string missing = missing_report();
+    return format("the inventory ended at %s, which can't be read: later reports were not taken, "
+                  "and a check passes their ports",
+                  missing.empty() ? "a report" : missing.c_str());
 }
 
 int count_fibre_channel_ports() {
@@ -230,7 +236,8 @@ int run_lscna(int argc, char** argv) {
         }
         ending_reason = "the directory of the program can't be used";
         resolve_directories(typed_program.c_str());
-        return list_ports(call);
+        const int status = list_ports(call);
+        return std::fflush(stdout) == 0 ? status : refuse("standard output can't be written");
     } catch (const std::bad_alloc&) {
         return refuse("out of memory");
     }

@@ -38,7 +38,7 @@ storage, which their records 1 and 2 allow.
   > report 3_hba_attributes ERROR :: -s => 1 *17, function 3: its attributes report has no title*
   > report 0_hba_attributes 'HBA Attributes for x\nVendor Spec ID: 19A2' :: -s => 1 *17, function 0: its attributes report lacks a PCI id
   > ports '/^Serial/s/VM1.*/n\/a/' :: -s => 1 n/a, functions 2 and 3: no serial number*
-  > rm blade/VM10250117_0_hba* :: -s => 1 the inventory ended at blade//VM10250117_0_hba_attributes.out, which can't be opened*
+  > rm blade/VM10250117_0_hba* :: -s => 1 the inventory ended at blade//VM10250117_0_hba_attributes.out, which can't be read*
   > # The flash.
   > ports '/^Port Number/s/: ./: 3/' :: -s => 1 ...\n*17, functions 0, 1, 2 and 3: the adapter has no flash port*22*\n...
   > rm blade/fm* :: -s => 1 *17, function 0: no file in blade/ is the firmware image 'fm10102-' of record 3*20
