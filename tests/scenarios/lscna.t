@@ -132,7 +132,7 @@ By the vendor's CLI, in turn with other runs; a terminal shows what is waited fo
   > rm hbacmd :: -J => 2 lscna: the vendor's CLI is not installed
   > END
   $ lay_standin && (flock 9 && sleep 0.5) 9<hbacmd &
-  $ sleep 0.2; script -qec "'$standin' -C blade" /dev/null | tr '\r' '\n' | grep -e ^waiting -e ^adapter -e '^port 5'
+  $ sleep 0.2; script -qec "'$standin' -C blade" /dev/null </dev/null | tr '\r' '\n' | grep -e ^waiting -e ^adapter -e '^port 5'
   waiting for another run
   adapter list
   port 5 of 11: attributes
