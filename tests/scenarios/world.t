@@ -100,7 +100,7 @@ Nothing in the environment changes what the shell does.
 
 A terminal is told what the tool waits for, which is wiped; a file never.
 
-  $ watched() { script -qec "'$CNATOOL_STANDIN' --conpath blade $*" /dev/null; }
+  $ watched() { script -qec "'$CNATOOL_STANDIN' --conpath blade $*" /dev/null </dev/null; }
   $ lay_standin && watched $FLASH_FM | tr '\r' '~' >out; head -c 28 out; tr '~' '\n' <out | grep -e '^port 5' -e '^down'
   ~adapter list~~            ~port 5 of 11: attributes
   port 5 of 11: target mapping
