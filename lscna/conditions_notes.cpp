@@ -22,23 +22,31 @@ constexpr FileMistake file_mistakes[] = {
     {[](std::string_view line) { return line.find('\0') != std::string_view::npos; },
      "NUL bytes, as in UTF-16: save the file as plain text"},
     {[](std::string_view line) { return line.starts_with("\xEF\xBB\xBF"); },
-     "a byte order mark, which becomes part of the first value: save the file without it"},
+     "a byte order mark, which the first value of a record would begin with: save the file without "
+     "it"},
     {[](std::string_view line) { return line.ends_with("\r\n"); },
      "a carriage return, which becomes part of the last value: save the file with LF line ends"},
     {[](std::string_view line) { return line.size() > piece_length; },
      "a line of more than 1023 characters is read in pieces, each as a line: shorten it"},
 };
 
-// The room for a value; 0 for one that is read whole, as model lists and identifiers are.
-std::size_t room_of(std::size_t column) {
+// What a column is called and, unless its values are read whole, the room for one.
+struct Room {
+    const char* column;
+    std::size_t length_max;
+};
+
+Room room_of(std::size_t column) {
     static fc_config_file_entry record{};
     static periphery_info_entry subsystem{};
-    if (column < columns.size()) {
-        return columns[column].number != nullptr ? 0 : columns[column].field(record).size() - 1;
+    constexpr std::size_t whole = piece_length;
+    if (column < conditions_columns.size()) {
+        const ConditionsColumn& part = conditions_columns[column];
+        return {part.name, part.number != nullptr ? whole : part.field(record).size() - 1};
     }
     const SubsystemColumn& part =
-        subsystem_columns[(column - columns.size()) % subsystem_columns.size()];
-    return part.whole_field != nullptr ? 0 : part.field(subsystem).size() - 1;
+        subsystem_columns[(column - conditions_columns.size()) % subsystem_columns.size()];
+    return {part.name, part.whole_field != nullptr ? whole : part.field(subsystem).size() - 1};
 }
 
 // The mistakes of one record.
@@ -48,12 +56,15 @@ std::vector<std::string> examine_record(const char* line, bool& usable) {
     std::vector<std::string> mistakes;
     for (std::size_t i = 0; i < values.size(); ++i) {
         const char* const value = values[i].c_str();
-        if (i < columns.size() && columns[i].number != nullptr && !is_accepted_number(value, 16)) {
+        const Room room = room_of(i);
+        if (i < conditions_columns.size() && conditions_columns[i].number != nullptr &&
+            !is_accepted_number(value, 16)) {
             usable = false;
-            mistakes.push_back(format("%s '%s' is not hexadecimal: cnatool refuses the file",
-                                      columns[i].name, value));
-        } else if (room_of(i) != 0 && values[i].size() > room_of(i)) {
-            mistakes.push_back(format("'%s' is cut to %zu characters", value, room_of(i)));
+            mistakes.push_back(
+                format("%s '%s' is not hexadecimal: cnatool refuses the file", room.column, value));
+        } else if (values[i].size() > room.length_max) {
+            mistakes.push_back(
+                format("%s '%s' is cut to %zu characters", room.column, value, room.length_max));
         }
     }
     const bool blank = line[std::strspn(line, " \t\"\r\n")] == '\0';

@@ -44,7 +44,12 @@ std::string firmware_of(const SurveyedPort& surveyed) {
 
 std::string storage_of(const SurveyedPort& surveyed) {
     const target_mapping_entry* const storage = surveyed.port->target_mapping;
-    return storage == nullptr ? "" : std::string(storage->vendor_id) + " " + storage->product_id;
+    if (storage == nullptr) {
+        return "";
+    }
+    const std::string vendor = storage->vendor_id;
+    return vendor + (vendor.empty() || *storage->product_id == '\0' ? "" : " ") +
+           storage->product_id;
 }
 
 std::string json_storage(const SurveyedPort& surveyed) {

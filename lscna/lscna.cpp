@@ -15,7 +15,6 @@
 #include "run/base/return_codes.h"
 #include "run/base/settings.h"
 #include "run/base/terminal_line.h"
-#include "run/base/text_file.h"
 #include "run/directories.h"
 #include "run/selection_lists.h"
 
@@ -84,6 +83,9 @@ std::optional<int> read_call(int argc, char** argv, Call& call) {
             set_directories(optarg);
             break;
         case 'p':
+            if (*optarg == '-') {
+                return refuse("--pci-id: the list begins with a minus sign");
+            }
             call.list = optarg;
             break;
         case 'J':
@@ -144,33 +146,6 @@ const char* no_list_reason(std::int32_t result) {
     }
 }
 
-// The first report of all ports that can't be opened; empty when there is none.
-std::string missing_report() {
-    // In the order of the inventory: the attributes of all ports come first.
-    for (const char* name : {attributes_report, mapping_report}) {
-        for (const hba_info& port : all_ports()) {
-            const std::string path = report_file(port, name).path;
-            const bool taken =
-                !serial_missing(port) && (name == attributes_report || is_fcoe_or_fc(port));
-            if (taken && open_text_file(path.c_str()) == nullptr) {
-                return path;
-            }
-        }
-    }
-    return "";
-}
-
-// Why the inventory has not come to its end; empty when it has.
-std::string inventory_end(std::int32_t result) {
-    if (result == RET_OK) {
-        return "";
-    }
-    const std::string missing = missing_report();
-    return format("the inventory ended at %s, which can't be read: later reports were not taken, "
-                  "and a check passes their ports",
-                  missing.empty() ? "a report" : missing.c_str());
-}
-
 int count_fibre_channel_ports() {
     int count = 0;
     for (const hba_info& port : all_ports()) {
@@ -200,9 +175,14 @@ int list_ports(const Call& call) {
     if (p_hba_info_list == nullptr) {
         return refuse(no_list_reason(result));
     }
-    causes.inventory_ended = inventory_end(result);
-    if (!causes.inventory_ended.empty()) {
+    if (result == report_not_opened) {
+        causes.inventory_ended =
+            format("the inventory ended at %s, which can't be read: later reports were not taken, "
+                   "and a check passes their ports",
+                   unread_report.c_str());
         notes.push_back(causes.inventory_ended);
+    } else if (result != RET_OK) {
+        throw std::bad_alloc();
     }
     const int fibre_channel_ports = count_fibre_channel_ports();
     Classify_Ctrl_List();

@@ -96,8 +96,10 @@ std::string missing_record(const hba_info& port) {
     for (std::size_t at = 0; (at = columns.find(':', at)) != std::string::npos;) {
         columns.replace(at, 1, " | ");
     }
-    return format("no record has %s: add '%s | %s | %s | ...'", id.c_str(), port.mfg, port.model,
-                  columns.c_str());
+    const Record room{};
+    return format("no record has %s: add '%.*s | %.*s | %s | ...'", id.c_str(),
+                  static_cast<int>(sizeof room.vendor - 1), port.mfg,
+                  static_cast<int>(sizeof room.model - 1), port.model, columns.c_str());
 }
 
 // The storage that a record allows, as "DGC Marlovan_CX and any NRB".
@@ -137,9 +139,9 @@ std::string unknown_reason(const hba_info& port, const std::string& inventory_en
         return inventory_ended;
     }
     if (port.attributes != nullptr && without_ids) {
-        return "its attributes report lacks a PCI id";
+        return "its attributes report lacks a PCI id, or has one that is not hexadecimal";
     }
-    return format("its %s report has no title: the command failed, or the disk was full",
+    return format("its %s report has no title, as when its command failed or the disk was full",
                   without_ids ? "attributes" : "target-mapping");
 }
 
@@ -150,8 +152,9 @@ std::string unjudged_reason(const hba_info& port, int record, const CommonCauses
     }
     const std::vector<hba_info*> chain = adapter_chain(port);
     if (std::find(chain.begin(), chain.end(), &port) == chain.end()) {
-        return "a check does not come to it: it judges two FCoE ports of an adapter, the first and "
-               "the last after the flash port";
+        return "a check does not come to it: of an adapter's FCoE ports it judges the first and "
+               "the "
+               "last after the flash port";
     }
     if (record != 0) {
         return "";
@@ -189,7 +192,8 @@ void look_at_luns(const SurveyedPort& surveyed, std::vector<PortNote>& notes) {
     for (const target_mapping_entry& lun : reported_luns(*surveyed.port)) {
         const bool same = std::strcmp(lun.vendor_id, judged->vendor_id) == 0 &&
                           std::strcmp(lun.product_id, judged->product_id) == 0;
-        if (!same && !allows(record_at(surveyed.record), lun)) {
+        const bool storage = lun.vendor_id[0] != '\0' || lun.product_id[0] != '\0';
+        if (storage && !same && !allows(record_at(surveyed.record), lun)) {
             notes.push_back(
                 {surveyed.port, format("its report also names %s %s, which record %d "
                                        "does not allow; a check judges the last LUN",
@@ -244,8 +248,9 @@ void look_at_image(const SurveyedFlash& flash, const SurveyedImage& image,
     }
 }
 
-void look_at_flash(const SurveyedFlash& flash, bool selected, std::vector<PortNote>& notes) {
-    if (flash.record == 0 && selected && !is_fcoe(*flash.port) && !pci_id(*flash.port).empty()) {
+void look_at_flash(const SurveyedFlash& flash, bool record_expected, std::vector<PortNote>& notes) {
+    if (flash.record == 0 && record_expected && !is_fcoe(*flash.port) &&
+        !pci_id(*flash.port).empty()) {
         notes.push_back({flash.port, missing_record(*flash.port) + "; a flash writes nothing"});
     }
     for (const auto& image : {flash.firmware, flash.bios}) {
@@ -283,7 +288,7 @@ std::vector<std::string> fold(std::vector<PortNote> notes) {
         std::erase_if(notes, [&](const PortNote& note) {
             const bool same = note.text == first.text &&
                               std::strcmp(note.port->serial_no, first.port->serial_no) == 0;
-            if (same) {
+            if (same && (functions.empty() || functions.back() != note.port->pci_function)) {
                 functions.emplace_back(note.port->pci_function);
             }
             return same;
@@ -375,9 +380,13 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
             notes.push_back({&port, unknown_reason(port, causes.inventory_ended)});
         }
         look_at_luns(surveyed, notes);
+        if (!pci_id(port).empty() && port.attributes->subvendor_id_val == 0) {
+            notes.push_back({&port, "subvendor id 0: -pci-id takes its four ids for two"});
+        }
         if (is_flash_port(port)) {
             survey.flashes.push_back(survey_flash(port, images));
-            look_at_flash(survey.flashes.back(), selection != nullptr, notes);
+            look_at_flash(survey.flashes.back(),
+                          selection != nullptr && causes.conditions_unusable.empty(), notes);
         }
     }
     std::erase_if(notes, [&](const PortNote& note) {

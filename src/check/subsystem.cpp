@@ -12,43 +12,39 @@
 namespace {
 
 // What one walk over the allowed subsystems found out.
-struct Verdict {
+struct Findings {
     bool found = false;
     std::string references; // the items that matched, separated by commas
 };
 
-void accept(std::string_view item, Verdict& verdict) {
-    verdict.found = true;
+void accept(std::string_view item, Findings& findings) {
+    findings.found = true;
     message(1, "\t\t\t--> OK\n");
-    if (!verdict.references.empty()) {
-        verdict.references += ',';
+    if (!findings.references.empty()) {
+        findings.references += ',';
     }
-    verdict.references += item;
+    findings.references += item;
 }
 
 // Looks for an item of the group that the product begins with. The last item is
 // looked at only while nothing has allowed the product yet, and an empty one
 // allows nothing; an empty item before a comma allows everything.
-void check_items(const char* group, const char* product, Verdict& verdict) {
-    std::vector<std::string_view> items = split(group, ',');
-    const std::string last(items.back());
-    items.pop_back();
-    for (const std::string_view item : items) {
-        message(1, "\t\t\tCheck subsystem: '%s' Attached subsystem: '%s'",
-                std::string(item).c_str(), product);
-        if (begins_with(product, item)) {
-            accept(item, verdict);
+void check_items(const char* group, const char* product, Findings& findings) {
+    const std::vector<std::string_view> items = split(group, ',');
+    for (const std::string_view& text : items) {
+        const std::string item(text);
+        const bool last = &text == &items.back();
+        if (last && findings.found) {
             return;
         }
-        message(1, "\t\t\t--> Invalid subsystem!\n");
-    }
-    if (verdict.found) {
-        return;
-    }
-    message(1, "\t\tCheck subsystem: '%s' Attached subsystem: '%s'", last.c_str(), product);
-    if (!last.empty() && begins_with(product, last)) {
-        accept(last, verdict);
-    } else {
+        message(1,
+                last ? "\t\tCheck subsystem: '%s' Attached subsystem: '%s'"
+                     : "\t\t\tCheck subsystem: '%s' Attached subsystem: '%s'",
+                item.c_str(), product);
+        if (begins_with(product, item) && !(last && item.empty())) {
+            accept(item, findings);
+            return;
+        }
         message(1, "\t\t\t--> Invalid subsystem!\n");
     }
 }
@@ -61,19 +57,19 @@ void print_storage(const target_mapping_entry& storage) {
 // Judges the storage by one allowed subsystem of its vendor. Returns true when the other
 // subsystems need not be looked at.
 bool check_subsystem(const periphery_info_entry& allowed, const target_mapping_entry& storage,
-                     Verdict& verdict) {
+                     Findings& findings) {
     message(1, "\n\t\tAttached storage sub-system:\n");
     print_storage(storage);
     const char* const models = allowed.whole_models;
     if (*models == '\0') {
-        verdict.found = true;
+        findings.found = true;
     } else {
-        check_items(models, storage.product_id, verdict);
+        check_items(models, storage.product_id, findings);
     }
-    if (!verdict.found || verdict.references.empty()) {
+    if (!findings.found || findings.references.empty()) {
         return false;
     }
-    if (CheckModelGroupConsistency(models, verdict.references)) {
+    if (CheckModelGroupConsistency(models, findings.references)) {
         message(1, "\t\t\tAll reference subsystems appear in the same group: %s\n", models);
         return true;
     }
@@ -114,14 +110,14 @@ bool CheckModelGroupConsistency(std::string_view group, std::string_view referen
 bool DoIndividualSubSystemCheck(const hba_info& port, const fc_config_file_entry& record,
                                 global_ctrl_flags& flags) {
     const target_mapping_entry& storage = *port.target_mapping;
-    Verdict verdict;
+    Findings findings;
     for (const auto* allowed = record.periphery; allowed != nullptr; allowed = allowed->next) {
         if (!is_blank(allowed->vendor) && std::strcmp(allowed->vendor, storage.vendor_id) == 0 &&
-            check_subsystem(*allowed, storage, verdict)) {
+            check_subsystem(*allowed, storage, findings)) {
             break;
         }
     }
-    if (verdict.found) {
+    if (findings.found) {
         message(1, "\n");
         return true;
     }

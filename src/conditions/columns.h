@@ -12,7 +12,7 @@
 
 // A column that describes the controller: what it is called, its field and its width in the
 // listing. An identifier also has a number, and the name that its refusal gives it.
-struct Column {
+struct ConditionsColumn {
     const char* name;
     std::span<char> (*field)(fc_config_file_entry&);
     int width;
@@ -20,24 +20,23 @@ struct Column {
     const char* refused_name = nullptr;
 };
 
-// Names the type once for the rows below.
-using Entry = fc_config_file_entry;
-
-constexpr auto columns = std::to_array<Column>({
-    {"vendor", text_field<&Entry::vendor>, 18},
-    {"model", text_field<&Entry::model>, 16},
-    {"vendor id", text_field<&Entry::vendor_id_str>, 6, &Entry::vendor_id, "Vendor-Id"},
-    {"device id", text_field<&Entry::device_id_str>, 6, &Entry::device_id, "Device-Id"},
-    {"subvendor id", text_field<&Entry::subvendor_id_str>, 6, &Entry::subvendor_id,
-     "Sub-Vendor-Id"},
-    {"subdevice id", text_field<&Entry::subdevice_id_str>, 6, &Entry::subdevice_id,
-     "Sub-System-Id"},
-    {"column 6", text_field<&Entry::column6>, 12},
-    {"column 7", text_field<&Entry::column7>, 12},
-    {"firmware image", text_field<&Entry::firmware_image>, 12},
-    {"BIOS image", text_field<&Entry::bios_image>, 12},
-    {"column 10", text_field<&Entry::column10>, 12},
-    {"column 11", text_field<&Entry::column11>, 12},
+constexpr auto conditions_columns = std::to_array<ConditionsColumn>({
+    {"vendor", text_field<&fc_config_file_entry::vendor>, 18},
+    {"model", text_field<&fc_config_file_entry::model>, 16},
+    {"vendor id", text_field<&fc_config_file_entry::vendor_id_str>, 6,
+     &fc_config_file_entry::vendor_id, "Vendor-Id"},
+    {"device id", text_field<&fc_config_file_entry::device_id_str>, 6,
+     &fc_config_file_entry::device_id, "Device-Id"},
+    {"subvendor id", text_field<&fc_config_file_entry::subvendor_id_str>, 6,
+     &fc_config_file_entry::subvendor_id, "Sub-Vendor-Id"},
+    {"subdevice id", text_field<&fc_config_file_entry::subdevice_id_str>, 6,
+     &fc_config_file_entry::subdevice_id, "Sub-System-Id"},
+    {"column 6", text_field<&fc_config_file_entry::column6>, 12},
+    {"column 7", text_field<&fc_config_file_entry::column7>, 12},
+    {"firmware image", text_field<&fc_config_file_entry::firmware_image>, 12},
+    {"BIOS image", text_field<&fc_config_file_entry::bios_image>, 12},
+    {"column 10", text_field<&fc_config_file_entry::column10>, 12},
+    {"column 11", text_field<&fc_config_file_entry::column11>, 12},
 });
 
 // The columns that follow, three for each allowed storage subsystem, and what the listing draws

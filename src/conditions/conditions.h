@@ -12,8 +12,8 @@ struct periphery_info_entry {
     char models[20]; // the model list as the listing shows it, cut
     char extra[10];
     periphery_info_entry* next;
-    // Comma-separated model prefixes, judged whole: a cut one would allow more models. Empty: every
-    // model of the vendor. A line has no more characters.
+    // Comma-separated model prefixes, as long as a line can be: a cut one would allow more models.
+    // Empty: every model of the vendor.
     char whole_models[1024];
 };
 

@@ -19,14 +19,14 @@ namespace {
 // The record that a data line becomes, while its columns are read.
 struct DataLine {
     std::int64_t number; // in the file, for refusals
-    Entry* entry;
+    fc_config_file_entry* entry;
     std::size_t column = 0;                    // the next one
     periphery_info_entry* subsystem = nullptr; // the last of the record's chain
 };
 
 // Converts an identifier from its whole value: cut to its field, the text could be the
 // identifier of another adapter.
-void store_identifier(const Column& column, char* value, const DataLine& line) {
+void store_identifier(const ConditionsColumn& column, char* value, const DataLine& line) {
     const std::int32_t number = string2int(value, 16);
     if (number < 0) {
         if (DebugLevel > 0 && PrintDebugOnScreen != 0) {
@@ -39,7 +39,7 @@ void store_identifier(const Column& column, char* value, const DataLine& line) {
 }
 
 void store_controller_column(char* value, const DataLine& line) {
-    const Column& column = columns[line.column];
+    const ConditionsColumn& column = conditions_columns[line.column];
     copy_text(column.field(*line.entry), value);
     if (column.number != nullptr) {
         store_identifier(column, value, line);
@@ -60,7 +60,8 @@ std::int32_t append_subsystem(DataLine& line) {
 }
 
 std::int32_t store_subsystem_column(const char* value, DataLine& line) {
-    const std::size_t position = (line.column - columns.size()) % subsystem_columns.size();
+    const std::size_t position =
+        (line.column - conditions_columns.size()) % subsystem_columns.size();
     if (position == 0) {
         if (const std::int32_t result = append_subsystem(line); result != RET_OK) {
             return result;
@@ -77,7 +78,7 @@ std::int32_t store_subsystem_column(const char* value, DataLine& line) {
 
 std::int32_t store_column(char* value, DataLine& line) {
     std::int32_t result = RET_OK;
-    if (line.column < columns.size()) {
+    if (line.column < conditions_columns.size()) {
         store_controller_column(value, line);
     } else {
         result = store_subsystem_column(value, line);
@@ -92,7 +93,7 @@ std::int32_t read_data_line(const char* text, std::int64_t number) {
     if (values.empty()) {
         return RET_OK;
     }
-    Entry* const entry = get_new_config_file_entry();
+    fc_config_file_entry* const entry = get_new_config_file_entry();
     if (entry == nullptr) {
         message(1, "Could not allocate memory for new fc_config_file entry.\n");
         return RET_MEMALLOC_FAIL;

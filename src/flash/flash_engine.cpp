@@ -45,7 +45,7 @@ std::int32_t run_flash_command(const ShellCommand& command) {
     // A half-written image bricks the adapter: signals are deferred until the result of the
     // command has been reported.
     const SignalHold hold;
-    const std::int32_t status = run_command(command, &hold);
+    const std::int32_t status = make_ready(command) ? run_command(command, &hold) : -1;
     if (status == 0) {
         message(1, "\t\tSuccess, flash command returned code %d.\n\n", status);
     } else {

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-// Whether there is something at `path`, which is shorter than path_capacity.
+// Whether there is something at `path`. False for a path of path_capacity characters or more.
 bool path_exists(const std::string& path);
 
 // The directory with a trailing "/" in which the images of the port's adapter are looked for: its

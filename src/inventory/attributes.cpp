@@ -116,7 +116,7 @@ std::int32_t read_attributes_line(char* line, hba_info& port) {
 } // namespace
 
 std::int32_t read_attributes(hba_info& port, const std::string& which) {
-    ReportFile file = report_file(port, attributes_report);
+    ReportFile file = report_file(port, "hba_attributes.out");
     const std::int32_t status = make_report("\n\t\t", {"hbaattributes", port_identifier(port)},
                                             file, "\n", which + ": attributes");
     // Here every type that begins with "FC" is named by its world-wide name.

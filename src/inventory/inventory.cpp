@@ -3,6 +3,7 @@
 #include "inventory/adapter_list.h"
 #include "inventory/attributes.h"
 #include "inventory/hba_info.h"
+#include "inventory/report.h"
 #include "inventory/target_mapping.h"
 #include "inventory/vendor_cli.h"
 #include "run/base/diagnostics.h"
@@ -35,6 +36,7 @@ std::int32_t for_each_port(Stage stage) {
 } // namespace
 
 std::int32_t Get_All_Hba_Info() {
+    unread_report.clear();
     if (!hbacmd_available()) {
         message(1, "\t\tCommand %s is not available!\n\n", hbacmd_path);
         return RET_SCLI_NOT_INSTALLED;

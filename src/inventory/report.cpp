@@ -19,8 +19,8 @@ ReportFile report_file(const hba_info& port, const char* name) {
     const std::string_view function = port.pci_function;
     std::string path = pHBAWorkingPath;
     path.append("/").append(serial).append("_").append(function).append("_").append(name);
-    // The slash of "n/a", a missing serial number, names no directory but is run all the same: the
-    // shell can't write there, and the report is not read.
+    // The slash of "n/a" is let through: the command is run for a port without a serial number,
+    // too, and its report is never read.
     const std::size_t first = serial_missing(port) ? 3 : 0;
     const bool inside = serial.find('/', first) == std::string_view::npos &&
                         function.find('/') == std::string_view::npos;
@@ -32,10 +32,8 @@ std::int32_t make_report(const char* lead, std::initializer_list<std::string_vie
     ShellCommand command = hbacmd_command(lead, words, Output::rewritten, file.path, tail);
     command.shown_at_terminal = std::move(shown);
     message(6, "%s", command.text.c_str());
-    const bool may_run = file.usable || active_option_simulate != 0;
-    const std::int32_t status = may_run ? run_command(command) : not_run;
-    file.usable = file.usable && status != not_run;
-    return status;
+    file.usable = file.usable && make_ready(command);
+    return file.usable || active_option_simulate != 0 ? run_command(command) : -1;
 }
 
 std::int32_t read_report(const ReportFile& file,
@@ -49,6 +47,7 @@ std::int32_t read_report(const ReportFile& file,
         }
     }
     if (report == nullptr || read_failed(report)) {
+        unread_report = file.path;
         message(1, "Error: Could not open file %s\n", file.path.c_str());
         return report_not_opened;
     }

@@ -16,9 +16,8 @@
 // The inventory's own result for a report that can't be opened.
 constexpr std::int32_t report_not_opened = 51;
 
-// The last word of the names of a port's two reports.
-constexpr const char* attributes_report = "hba_attributes.out";
-constexpr const char* mapping_report = "target_mapping.out";
+// The path of the report at which the inventory ended; empty: it has come to its end.
+inline std::string unread_report;
 
 // A report's file in the working directory.
 struct ReportFile {
@@ -34,7 +33,7 @@ ReportFile report_file(const hba_info& port, const char* name);
 
 // Shows and runs the CLI's command line of `words`, framed by `lead` and `tail`, which makes the
 // report; `shown` is shown at a terminal meanwhile. Returns the raw status (see run_command).
-// The file of a command that was not run becomes unusable: its text is an earlier run's.
+// The file of a command that must not be run becomes unusable: its text is an earlier run's.
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
                          ReportFile& file, const char* tail, std::string shown);
 

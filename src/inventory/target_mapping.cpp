@@ -13,6 +13,7 @@ namespace {
 
 using Entry = target_mapping_entry;
 
+constexpr const char* report_name = "target_mapping.out";
 constexpr std::string_view title = "Target Mapping for";
 
 // A row of the report's table: where the value of such a line goes, and whether it tells one
@@ -75,7 +76,7 @@ std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
     if (!is_fcoe_or_fc(port)) {
         return RET_OK;
     }
-    ReportFile file = report_file(port, mapping_report);
+    ReportFile file = report_file(port, report_name);
     const std::int32_t status = make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, file,
                                             "\n", which + ": target mapping");
     if (status == 0) {
@@ -100,7 +101,7 @@ std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
 
 std::vector<target_mapping_entry> reported_luns(const hba_info& port) {
     std::vector<target_mapping_entry> luns(1);
-    read_report(report_file(port, mapping_report), [&](char* line) {
+    read_report(report_file(port, report_name), [&](char* line) {
         const Label* const label = find_label(labels, line);
         const char* const value = label == nullptr ? nullptr : line_value(line);
         if (value != nullptr) {

@@ -15,8 +15,7 @@ namespace {
 
 std::int32_t option_input_cnt = 0;
 
-// Where the items of a kind go, and what the messages call them. Identifiers have
-// a number as well, names do not.
+// Where the items of a kind go and what the messages call them. Only identifiers have a number.
 struct Target {
     std::span<char> (*field)(option_input&);
     const char* list_name;

@@ -36,7 +36,7 @@ storage, which their records 1 and 2 allow.
   > # Ports that are not known.
   > report 2_target_mapping '' :: -s => 1 *17, function 2: its target-mapping report has no title*
   > report 3_hba_attributes ERROR :: -s => 1 *17, function 3: its attributes report has no title*
-  > report 0_hba_attributes 'HBA Attributes for x\nVendor Spec ID: 19A2' :: -s => 1 *17, function 0: its attributes report lacks a PCI id
+  > report 0_hba_attributes 'HBA Attributes for x\nVendor Spec ID: 19A2' :: -s => 1 *17, function 0: its attributes report lacks a PCI id*
   > ports '/^Serial/s/VM1.*/n\/a/' :: -s => 1 n/a, functions 2 and 3: no serial number*
   > rm blade/VM10250117_0_hba* :: -s => 1 the inventory ended at blade//VM10250117_0_hba_attributes.out, which can't be read*
   > # The flash.
@@ -66,7 +66,7 @@ Mistakes in the conditions file, with their lines.
   > written '\n# a | b\n---+--+\nE | 1 # b\n' :: -s => 0 4: the number sign hides this record*
   > written 'Emulex;CNA\n' :: -s => 0 1: no bar*
   > written 'E|M|1|2|3\n\nE|M\n' :: -s => 0 1: a record without all four ids*\n3: a record*
-  > written 'E|M|1|2|3|4|x|x|f|b|x|x|%010d|%020d|x|%010d\n' :: -s => 0 1: '0000000000' is cut to 9 characters\n1: '0000000000' is cut*
+  > written 'E|M|1|2|3|4|x|x|f|b|x|x|%010d|%020d|x|%010d\n' :: -s => 0 1: storage vendor '0000000000' is cut to 9 characters\n1: storage*
   > # cnatool refuses the file: the note of the ports would follow from this one.
   > record 11C1 11G1 :: -s => 0 21: subdevice id '11G1' is not hexadecimal: cnatool refuses the file
   > record 11C1 FFFFFFFFFFFFFFFFF :: -s => 0 21: subdevice id 'F*F' is not hexadecimal*

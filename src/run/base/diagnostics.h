@@ -1,6 +1,5 @@
-// The diagnostic writer. Every message of the tool but two kinds goes through
-// it: the refusals of the conditions file's identifiers and the overflow of a
-// number, which go straight to standard error.
+// The diagnostic writer. All messages of the tool go through it, but for the refusals of the
+// conditions file's identifiers and of a too large number, which go straight to standard error.
 #pragma once
 
 #include <cstddef>
@@ -22,9 +21,8 @@ constexpr const char* star_divider = CNATOOL_EIGHT_TIMES("*********+");
 // Sets the three levels. A run starts with 0, 1 and 1.
 void set_levels(std::int32_t debug, std::int32_t verbose, std::int32_t screen);
 
-// Writes `text` unchanged where the levels and the screen switch send it: to
-// standard output, standard error or `stream` (which may be null). Returns 1
-// when it was written, 0 when it was hidden.
+// Writes `text` unchanged where the levels and the screen switch send it: standard output, standard
+// error or `stream` (may be null). Returns 1 when it was written, 0 when it was hidden.
 int PrintDebug(std::int32_t level, const char* text, std::FILE* stream);
 
 // Opens the log of a debug run, emptied, and sends the messages there from now on. A log that

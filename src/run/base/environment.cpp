@@ -20,8 +20,7 @@ void reset_inherited_state() {
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGCHLD, SIG_DFL);
     umask(umask(0) | S_IWGRP | S_IWOTH);
-    // Some shells take their options, or the state of their option parser, from these
-    // variables: with noexec every command succeeds without being run.
+    // Some shells take options from these: with noexec every command succeeds without being run.
     for (const char* const variable : {"SHELLOPTS", "BASHOPTS", "OPTIND"}) {
         unsetenv(variable);
     }

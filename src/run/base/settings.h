@@ -1,5 +1,4 @@
-// The settings of a run. The driver writes them while it reads the command line;
-// the phases only read them.
+// The settings of a run: written while the command line is read, then only read.
 #pragma once
 
 #include <cstddef>

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <fstream>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,10 +17,10 @@ constexpr std::string_view plain_characters = "abcdefghijklmnopqrstuvwxyz"
                                               "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                               "0123456789%+,-./:=@_";
 
-// Signals that a deferred command ignores although it runs in a session of its own, out of reach
-// of the terminal: some CLIs react to them in the middle of a download, and a limit of processor
-// time would end one.
-constexpr int ignored_when_deferred[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGXCPU};
+// Signals that a command ignores under a hold, although it runs in a session of its own, out of
+// reach of the terminal: some CLIs react to them in the middle of a download, and a limit of
+// processor time would end one.
+constexpr int ignored_under_hold[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGXCPU};
 
 // In the child: becomes the shell.
 [[noreturn]] void become_shell(const char* text, const SignalHold* hold) {
@@ -30,7 +31,7 @@ constexpr int ignored_when_deferred[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGXC
         }
     } else {
         setsid();
-        for (const int signal : ignored_when_deferred) {
+        for (const int signal : ignored_under_hold) {
             std::signal(signal, SIG_IGN);
         }
         sigprocmask(SIG_SETMASK, &hold->mask_before(), nullptr);
@@ -39,12 +40,12 @@ constexpr int ignored_when_deferred[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGXC
     _exit(127);
 }
 
-// Returns the raw status, not_run when it is unavailable.
+// Returns the raw status, -1 when it is unavailable.
 std::int32_t wait_for(pid_t child) {
     int status = 0;
     while (waitpid(child, &status, 0) < 0) {
         if (errno != EINTR) {
-            return not_run;
+            return -1;
         }
     }
     return status;
@@ -67,15 +68,16 @@ std::string shell_word(std::string_view value) {
     return word + "'";
 }
 
+bool make_ready(const ShellCommand& command) {
+    return active_option_simulate != 0 || (command.text.size() <= command_length_max &&
+                                           prepare_output(command.output_path, command.output));
+}
+
 // The library's system() would make the tool deaf to Ctrl-C while a report is made, and let the
 // terminal reach a download.
 std::int32_t run_command(const ShellCommand& command, const SignalHold* hold) {
     if (active_option_simulate != 0) {
         return 0;
-    }
-    if (command.text.size() > command_length_max ||
-        !prepare_output(command.output_path, command.output)) {
-        return not_run;
     }
     // Someone who watches the run sees the messages before the command starts.
     std::fflush(nullptr);
@@ -84,5 +86,10 @@ std::int32_t run_command(const ShellCommand& command, const SignalHold* hold) {
     if (child == 0) {
         become_shell(command.text.c_str(), hold);
     }
-    return child < 0 ? not_run : wait_for(child);
+    if (child < 0) {
+        // The shell would have created the file; the report of one port counts as empty.
+        const std::ofstream created(command.output_path, std::ios::app);
+        return -1;
+    }
+    return wait_for(child);
 }

@@ -1,6 +1,7 @@
 #include "run/base/signal_hold.h"
 
 #include <cstdio>
+#include <cstring>
 
 SignalHold::SignalHold() {
     // A slow reader of the messages must not make a signal wait.
@@ -13,10 +14,11 @@ SignalHold::SignalHold() {
 }
 
 SignalHold::~SignalHold() {
-    sigset_t waiting;
+    sigset_t waiting{};
+    const sigset_t none{};
     sigpending(&waiting);
     // Without one, a reader who has stopped reading must not keep later signals waiting.
-    if (sigisemptyset(&waiting) == 0) {
+    if (std::memcmp(&waiting, &none, sizeof none) != 0) {
         std::fflush(nullptr);
     }
     sigprocmask(SIG_SETMASK, &before_, nullptr);
