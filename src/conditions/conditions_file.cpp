@@ -24,8 +24,7 @@ struct DataLine {
     periphery_info_entry* subsystem = nullptr; // the last of the record's chain
 };
 
-// Converts an identifier from its whole value: cut to its field, the text could be the
-// identifier of another adapter.
+// Converts an identifier from its whole value: a cut one could be another adapter's.
 void store_identifier(const ConditionsColumn& column, char* value, const DataLine& line) {
     const std::int32_t number = string2int(value, 16);
     if (number < 0) {

@@ -87,8 +87,7 @@ std::int32_t begin_record(hba_info& port) {
     return RET_OK;
 }
 
-// A line without a colon stores nothing. The number is read from the whole value,
-// so that a cut text is never the identifier of another adapter.
+// A line without a colon stores nothing. The number is read from the whole value, not a cut text.
 void store_value(const Label& label, char* line, Entry& attributes) {
     const std::span<char> field = label.field(attributes);
     if (char* const value = line_value(line)) {

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 #include <cstring>
+#include <poll.h>
+#include <unistd.h>
 
 SignalHold::SignalHold() {
     // A slow reader of the messages must not make a signal wait.
@@ -17,8 +19,9 @@ SignalHold::~SignalHold() {
     sigset_t waiting{};
     const sigset_t none{};
     sigpending(&waiting);
-    // Without one, a reader who has stopped reading must not keep later signals waiting.
-    if (std::memcmp(&waiting, &none, sizeof none) != 0) {
+    // Only for a signal that waits, and a reader who still reads: others would make the tool deaf.
+    pollfd reader{STDOUT_FILENO, POLLOUT, 0};
+    if (std::memcmp(&waiting, &none, sizeof none) != 0 && poll(&reader, 1, 1000) == 1) {
         std::fflush(nullptr);
     }
     sigprocmask(SIG_SETMASK, &before_, nullptr);

@@ -7,9 +7,8 @@
 
 namespace {
 
-// Opens a regular file with the flags of open(2) and, where it is created, the mode, and reads
-// its `status`. It never waits, as opening a FIFO would. Returns null when the file can't be
-// opened or is something else (a directory, a device).
+// Opens a regular file, as open(2) does but without waiting, and reads its `status`. Returns null
+// when the file can't be opened or is something else (a directory, a FIFO).
 TextFile open_regular_file(const char* path, int flags, mode_t mode, struct stat& status) {
     const int descriptor = open(path, flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode);
     if (descriptor < 0) {
