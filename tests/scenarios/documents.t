@@ -31,26 +31,3 @@ information only alone.
   blade
   
   
-
-The shell recipe, with a program that ends as it is told.
-
-  $ sed -n '/^```sh$/,/^```$/p' "$project/docs/automation.md" | grep -v '^```' >recipe
-  $ cat >stub <<'EOF' && chmod +x stub
-  > #!/bin/sh
-  > case $* in *--flash*) exit "$FLASH" ;; esac
-  > [ -z "$OVERFLOW" ] || echo "strtoul: too long" >&2
-  > exit "$CHECK"
-  > EOF
-  $ recipe() { CHECK=$1 FLASH=$2 OVERFLOW=${3-} TOOL=./stub; export CHECK FLASH OVERFLOW TOOL; sh recipe 2>&1; echo "=> $?"; }
-  $ for status in 0 1 2 3 4 12 13 15 22 54 55 137; do recipe $status 0 | tail -n 1; done | xargs
-  => 0 => 1 => 1 => 3 => 1 => 0 => 0 => 3 => 3 => 3 => 3 => 3
-  $ for status in 10 12 20 21; do recipe 0 $status | tail -n 1; done | xargs
-  => 2 => 3 => 2 => 2
-  $ recipe 0 20; recipe 3 0; recipe 1 0 overflow
-  flash: status 20, do not restart, stop the fleet
-  => 2
-  set-up: status 3
-  => 3
-  strtoul: too long
-  set-up: a number is too long
-  => 3
