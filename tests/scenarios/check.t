@@ -6,11 +6,8 @@ follows.
   $ fm_ports_differ() { sed -i 's/: DGC/: NRB/; s/_CX1/_SX1/' blade/VM10250117_3_target_mapping.out; }
   $ both_checks='--ctrl-wide-identical --ctrl-vendor-wide-identical'
   $ rows simulated lay_blade <<'EOF'
-  > --silent $FM => 0
-  > --silent $FX => 4
   > # FM sees DGC, FX sees NRB; the vendor-wide status comes first.
   > --silent --ctrl-wide-identical $BOTH => 0
-  > --silent --ctrl-vendor-wide-identical --qmr-mode $BOTH => 2
   > --silent $both_checks $BOTH => 2
   > -v 2 --ctrl-vendor-wide-identical $BOTH => 2 ...
   > | vendor specific reference-sub-system 1 >NRB< >DGC<.
@@ -21,7 +18,6 @@ follows.
   > | \t\t\tVendor: *PCI function: 3
   > | \nvendor specific reference-sub-system 0 >DGC< >DGC<.
   > | \t\tAt least one*\n...
-  > fm_ports_differ :: --silent $both_checks $FM => 2
   > fm_ports_differ :: --silent $FM => 0
   > # A flash after a check that has passed, with the status of one that has not.
   > --flash $both_checks $BOTH => 2 ...\n\tNow start flashing the firmware.\n...
@@ -43,18 +39,12 @@ What a selection finds.
   $ rows simulated lay_blade <<'EOF'
   > --silent -vid 19A2 -dev 0714 -subvid 1C3E -subdev 11C3 => 12
   > --silent -pci-id 19A2:0714:1:11C1 => 12
-  > --silent -pci-id 0:0 => 12
   > --silent --qmr-modex => 0
+  > --silent -pci-id 19A2:0712:1C3E:11D0 => 0
   > # Names select nothing.
   > -v 3 -vn Emulex => 12 ...\nOverallSubSystemCheck returned: 1*
   > # A port that is selected counts as found without a record, too.
   > without_records :: --silent $FM => 0
-  > -v 6 -pci-id 19A2:0712:1C3E:11D0 => 0 ...
-  > | \tFound a matching controller-device in line 5:
-  > | \t\tvendor-id: 19A2, device-id: 0712
-  > | \t\tsubvendor-id: 1C3E, subdevice-id: 11D0
-  > | \t\tCorrespondig data: vendor: Emulex; model: CNA-10102-I\n...
-  > without_ports :: -v 1 => 13 \nNo Blade Engine was found in this system.\n
   > without_ports :: --qmr-mode => 0 \nNo Blade*\n
   > # No port with the number of a flash port.
   > without_flash_port :: $FM => 22
@@ -72,34 +62,30 @@ allowed ends it, and a port without storage does not.
   >     sed -n 's/^\t\tVendor.*PCI f/F/p; s/^\t\t\(Take this\|This\|Subsystem\) /\1 /p' out; return $status
   > }
   $ rows walk lay_blade <<'EOF'
-  > -v 2 $FM => 0
+  > # The second selected port begins the walk again: from level 4 on this tells what is done.
+  > -v 4 $FM => 0
   > | Function: 2
   > | Take this sub-system as reference-sub-system for this controller-device.
   > | Take this sub-system as reference-sub-system for vendor Emulex Corporation.
   > | Function: 3
   > | This sub-system is consistent with controller specific reference-sub-system (only vendor-id was checked).
+  > | Function: 2
+  > | Subsystem check already done => continue.
+  > | Function: 3
+  > | Subsystem check already done => continue.
   > # The ports come into their order before the flash ports are sought.
   > listed_backwards :: -v 1 $FM => 0 Function: 2\nFunction: 3
-  > # Invalid storage ends the walk, which the second selected port begins again.
+  > # Invalid storage ends the walk, which the second port begins again.
   > fm_sees '\n\n\n\nVendor ID: dgc' :: -v 2 $FM => 4
   > | Function: 2
   > | Take this sub-system as reference-sub-system for this controller-device.
   > | Function: 3
   > | Take this sub-system as reference-sub-system for this controller-device.
   > | Take this sub-system as reference-sub-system for vendor Emulex Corporation.
-  > # From level 4 on the second walk tells what is done.
-  > -v 4 $FM => 0 ...
-  > | Function: 2
-  > | Subsystem check already done => continue.
-  > | Function: 3
-  > | Subsystem check already done => continue.
-  > # A colon in the title, the first four lines, is no storage; behind it any line is.
-  > fm_sees '\n\n\nVendor ID: DGC\n' :: -v 2 $FM => 0
+  > fm_sees '' :: -v 2 $FM => 0
   > | Function: 2
   > | Function: 3
-  > | Take this sub-system as reference-sub-system for this controller-device.
-  > | Take this sub-system as reference-sub-system for vendor Emulex Corporation.
-  > fm_sees '\n\n\n\nType: x' :: -v 1 $FM => 4 Function: 2\nFunction: 3
+  > | Take *\nTake *
   > # A port of another maker or model than the record's is passed over.
   > other_maker :: $FM => 0
   > other_model :: $FM => 0
@@ -110,7 +96,8 @@ Storage is listed when it names its vendor; a port without a serial number is pa
   $ fx_serial() { sed -i "/^Serial/s%VM2.*%$1%" blade/local_hba_list.out; }
   $ no_flash_port() { sed -i '/^Serial/s/VM.*/n.a/;/^Port Number/s/:.*/:3/' blade/local_hba_list.out; }
   $ rows simulated lay_blade <<'EOF'
-  > fm_sees '\n\n\n\nVendor ID: D' :: -v 4 $FM => 4 ...\n  *VM10250117  port 0  function 2\n\n\tD\n\t\n\t\n\n  Emu*\n...
+  > fm_sees '\n\n\n\nVendor ID: a long storage vendor' :: -v 4 $FM => 4 ...
+  > |   *VM10250117  port 0  function 2\n\n\ta long storage vendor\n\t\n\t\n\n  Emu*\n...
   > fm_sees '\n\n\n\nType: x' :: -v 4 $FM => 4 ...\n  *VM10250117  port 0  function 2\n\n  Emulex*function 3\n...
   > -v 6 $FX => 4 ...
   > |
@@ -120,9 +107,7 @@ Storage is listed when it names its vendor; a port without a serial number is pa
   > | \t\t\t\t7.12\n\n...
   > fx_serial n/a :: -v 1 $BOTH => 0
   > | \t\tNo serial number => SKIP!
-  > | *SKIP!
-  > | *SKIP!
-  > | *SKIP!
+  > | *SKIP!\n*SKIP!\n*SKIP!
   > | \t\t\tNo serial number => SKIP!
   > | *SKIP!\n\n...
   > fx_serial n/ab :: -v 6 $BOTH => 0 ...
@@ -138,6 +123,7 @@ The storage of one port, NRB Marlovan_SX1, against the subsystems that its recor
 vendor, models, extra.
 
   $ lay_blade && : >blade/VM20713302_3_target_mapping.out
+  $ product() { sed -i "s/Marlovan_SX1/$1/" blade/VM20713302_2_target_mapping.out; }
   $ judged() {
   >     echo "Emulex|CNA-10102-FX|19A2|0714|1C3E|11C2|x|x|x|x|x|x|$1" >$conditions
   >     simulated $FX >out; status=$?; sed '1,/PCI function: 2/d; /--+/,$d; /^\t\t\t\t/d; /^$/d' out; return $status
@@ -153,18 +139,12 @@ vendor, models, extra.
   > | \tAlready identified reference subsystems: Marlovan_SX  Subsystem group: Marlovan_SX
   > | \tReference subsystem Marlovan_SX found in Group: Marlovan_SX
   > | \t\t\tAll reference subsystems appear in the same group: Marlovan_SX
-  > 'NRB|Marlovan_SX10|x' => 4
-  > | \t\tAttached storage sub-system:
-  > | \t\tCheck subsystem: 'Marlovan_SX10' Attached subsystem: 'Marlovan_SX1'\t\t\t--> Invalid subsystem!
   > # One of the models will do; those before the last are told with one more tab.
   > 'NRB|A,Marlovan_SX1|x' => 0 ...
   > | \t\t\tCheck subsystem: 'A' *!
   > | \t\tCheck subsystem: 'Marlovan_SX1' *--> OK
   > | \tAlready identified reference subsystems: Marlovan_SX1  Subsystem group: A,Marlovan_SX1\n...
   > 'NRB|Marlovan_SX1,A|x' => 0 ...\n\t\t\tCheck subsystem: 'Marlovan_SX1' *--> OK\n\tAlready*\n...
-  > # The list is judged whole, however long; product names count whole, too.
-  > 'NRB|Marlovan_A1,Marlovan_B1,Marlovan_S|x' => 0 ...\n\t\tCheck subsystem: 'Marlovan_S' *--> OK\n...
-  > 'NRB|Marlovan_A1,Marlovan_SX12|x' => 4 ...\n\t\tCheck subsystem: 'Marlovan_SX12' *--> Invalid subsystem!
   > # An empty model before a comma allows all, as the last one none.
   > 'NRB|A,,B|x' => 0 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck subsystem: ''*--> OK
   > 'NRB|A,B,|x' => 4 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck*'B'*!\n\t\tCheck subsystem: ''*!
@@ -173,4 +153,7 @@ vendor, models, extra.
   > # After one that allows all, the others are still looked at: the last model is not.
   > 'NRB| |x|NRB|Y,Z|x|NRB|Marlovan|x' => 0 \t\tAtt*\n\t\tAtt*\n*'Y'*!\n\t\tAtt*
   > 'NRB|,|x|NRB|A|x' => 0 \t\tAtt*\n\t\t\tCheck subsystem: ''*--> OK\n\t\tAtt*
+  > # Model lists and products are judged whole, however long.
+  > 'NRB|Marlovan_A1,Marlovan_B1,Marlovan_S|x' => 0 ...\n\t\tCheck subsystem: 'Marlovan_S' *--> OK\n...
+  > product Marlovan_SX1_first_edition :: 'NRB|X,Marlovan_SX1_first_issue|x' => 4 ...\n\t\tCheck subsystem: 'Marlovan_SX1_first_issue' *!
   > EOF

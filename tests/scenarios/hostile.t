@@ -17,17 +17,9 @@ the files beside it.
   > | Success, "hbacmd hbaattributes a b" command returned code 0.
   > | hbaattributes [a b]
   > | ./hbacmd ./out
-  > '$(touch pwned)' => 12
-  > | ./hbacmd hbaattributes '$(touch pwned)' > 'blade//$(touch pwned)_2*
-  > | Success*
-  > | hbaattributes [$(touch pwned)]
-  > | ./hbacmd ./out
-  > "it's|touch pwned" => 12
-  > | ./hbacmd hbaattributes 'it'\''s|touch pwned' > 'blade//it'\''s|touch pwned_2*
-  > | Success*
-  > | hbaattributes [it's|touch pwned]
-  > | ./hbacmd ./out
-  > # What a shell would expand.
+  > # What a shell would run, or expand.
+  > '$(touch pwned)' => 12 ./hbacmd hbaattributes '$(touch pwned)' > *\nSuccess*\nhbaattributes [$(touch pwned)]\n./hbacmd ./out
+  > "it's|touch x" => 12 ./hbacmd hbaattributes 'it'\''s|touch x' > *\nSuccess*\nhbaattributes [it's|touch x]\n./hbacmd ./out
   > 'a*' => 12 ./hbacmd hbaattributes 'a*' > 'blade//a*'\nSuccess*\nhbaattributes [a*]\n./hbacmd ./out
   > '~' => 12 ./hbacmd hbaattributes '~' > 'blade//~_2*'\nSuccess*\nhbaattributes [~]\n./hbacmd ./out
   > # An empty name is no word.
@@ -59,7 +51,6 @@ Nobody reads what the tool says, or waits for its children: the run goes on and 
 its status.
 
   $ lay_blade && rows simulated <<'EOF'
-  > -v 6 $FX >&- => 4
   > -v 6 $FX >/dev/full => 4
   > -v 6 $FX <&- >&- 2>&- => 4
   > EOF

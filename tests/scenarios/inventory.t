@@ -28,19 +28,15 @@ as a real one.
 A list that can't be had ends the inventory, any other command that fails is only told.
 
   $ rows real lay_standin <<'EOF'
-  > on listhbas1 'exit 3' :: -v 4 => 13 ...
+  > # A list that is printed counts for nothing when its command fails.
+  > on listhbas1 'cat cli/reports/local_hba_list.out; exit 3' :: -v 4 => 13 ...
   > | \nFail, "hbacmd listhbas" command returned code 768.
   > | \nNo Blade*\n
-  > on listhbas1 'exit 3' :: -v 3 => 13 env*\nHBA*\n\nNo Blade*\n
-  > # Half a list counts for nothing.
-  > on listhbas1 'cat cli/reports/local_hba_list.out; exit 3' :: -v 1 => 13 \nNo Blade*\n
   > on hbaattributes1 'exit 3' :: -v 6 $BOTH => 0 ...
   > | \n\t\tFail, "hbacmd hbaattributes 10:00:00:00:c9:b2:00:11" command returned code 768.\n...
   > on targetmapping3 'exit 1' :: -v 6 $BOTH => 0 ...
   > |
   > | \n\t\t\tFail, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 256.\n...
-  > # A port with an empty report sees no storage; level 1 does not tell why.
-  > on targetmapping3 'exit 1' :: -v 1 $FM => 0 \n\t\t---*\n\n\t\tPerform*\n*function: 2\n\n\n\t\t---*\n...
   > rm hbacmd :: -v 1 => 13 \t\tCommand ./hbacmd is not available!\n\n\nNo Blade*\n
   > rm hbacmd :: --simulate --silent => 13
   > EOF
@@ -51,8 +47,6 @@ Reports that can't be opened end the inventory; the ports stay, without storage.
   > rm blade/VM10250117_2_hba* :: $BOTH => 0 Error: Could not open file blade//VM10250117_2_hba_attributes.out\n\n\t\t---*\n...
   > rm blade/VM20713302_3_t* :: $BOTH => 0 Error: Could not open file blade//VM20713302_3_target_mapping.out\n\n\t\t---*\n...
   > rm blade/local_hba_list.out :: -v 1 => 13 Error: Could not open file blade//local_hba_list.out\n\nNo Blade*\n
-  > rm blade/local_hba_list.out && mkfifo blade/local_hba_list.out :: --silent => 13
-  > rm $conditions :: -v 1 => 15 Error: Could not open file blade/FC_HBA_Conditions.txt\n\nCann't access file *.\n
   > EOF
 
 The lines of the list as they are read. A value begins two characters after the colon;

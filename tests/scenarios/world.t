@@ -63,12 +63,10 @@ through it. The trace, which is appended to, is left alone and its command not r
   > eval 'mkfifo $report' => 0 precious
   > eval 'ln -s ../secret $report' => 0 precious
   > eval 'ln secret $report' => 0 precious
-  > eval 'ln -s ../secret blade/local_hba_list.out' => 0 precious
   > eval 'mkdir $report' => 12 returned code -1.\nError: Could not open file blade//VM10250117_0_hba_attributes.out\nprecious
   > eval 'mkfifo $trace' => 10 returned code -1.\nprecious
   > eval 'ln -s ../secret $trace' => 10 returned code -1.\nprecious
   > eval 'ln secret $trace' => 10 returned code -1.\nprecious
-  > eval 'mkdir $trace' => 10 returned code -1.\nprecious
   > EOF
 
 A report is emptied before its command runs; where that can't be done, as with the file of a
