@@ -1,20 +1,24 @@
-// Broken input: a blade of one adapter with two ports, of which one file is replaced,
-// and a simulated run over it in this process, which must end with a status of the
-// table. libFuzzer finds the contents, or the sweep at the end of this file makes them.
+// Broken input: a blade of one adapter with two ports, of which one file is replaced, and a
+// simulated run of each program over it in this process, which must end with one of its
+// statuses. libFuzzer finds the contents, or the sweep at the end of this file makes them.
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
+#include "lscna/lscna.h"
 #include "run/base/end_run.h"
 #include "run/base/return_codes.h"
 #include "run/base/settings.h"
+#include "run/base/text.h"
 #include "run/driver.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 // In place of the library's: many runs share the process.
 void end_run(std::int32_t status) {
@@ -57,10 +61,11 @@ struct Directory {
     std::string name = std::filesystem::temp_directory_path() / "cnatool_XXXXXX";
 
     Directory() {
-        if (mkdtemp(name.data()) == nullptr || chdir(name.c_str()) != 0 ||
-            std::freopen("/dev/null", "w", stdout) == nullptr) {
+        if (mkdtemp(name.data()) == nullptr || chdir(name.c_str()) != 0) {
             std::abort();
         }
+        // Only what the programs say: the sanitizers write to the descriptor.
+        stdout = stderr = std::fopen("/dev/null", "w");
         std::for_each(std::begin(blade), std::end(blade), write);
     }
     ~Directory() { std::filesystem::remove_all(name); }
@@ -70,31 +75,42 @@ struct Directory {
     }
 };
 
-void run_with(const BladeFile& file, const std::string& content, bool flash) {
-    static const Directory directory;
-    directory.write({file.name, content});
-    std::string words[] = {"./cnatool", "--conpath", ".",         "--simulate", "-v",
-                           "6",         "-pci-id",   "19A2:0714", "--flash"};
-    char* argv[std::size(words)];
-    std::transform(std::begin(words), std::end(words), argv,
+// Runs a program, which must return a status of the table, or end with one.
+void expect_status(std::int32_t (*program)(int argc, char** argv), std::vector<std::string> words,
+                   const BladeFile& file, const std::string& content) {
+    std::vector<char*> argv;
+    std::transform(words.begin(), words.end(), std::back_inserter(argv),
                    [](auto& word) { return word.data(); });
-    active_option_flash = 0;
-    active_option_valid_subsystem = 0;
     std::int32_t status = -1;
     try {
-        run_tool(static_cast<int>(std::size(words)) - (flash ? 0 : 1), argv);
+        status = program(static_cast<int>(argv.size()), argv.data());
     } catch (const std::int32_t ended) {
         status = ended;
     }
     release_hba_info_list();
     release_config_entry_list();
-    directory.write(file);
     const auto codes = return_codes();
     if (std::none_of(codes.begin(), codes.end(),
                      [=](auto& code) { return code.value == status; })) {
-        std::fprintf(stderr, "status %d for %s:\n%s\n", status, file.name, content.c_str());
+        dprintf(STDERR_FILENO, "status %d for %s:\n%s\n", status, file.name, content.c_str());
         std::abort();
     }
+}
+
+// `second` chooses what is run: a flash in place of a check, JSON in place of the table.
+void run_with(const BladeFile& file, const std::string& content, bool second) {
+    static const Directory directory;
+    directory.write({file.name, content});
+    active_option_flash = second ? 1 : 0;
+    active_option_valid_subsystem = 0;
+    expect_status([](int argc, char** argv) { return run_tool(argc, argv), -1; },
+                  {"./cnatool", "--conpath", ".", "--simulate", "-v", "6", "-pci-id", "19A2:0714"},
+                  file, content);
+    // Its statuses are statuses of the table, too.
+    expect_status(run_lscna,
+                  {"./lscna", "-C", ".", "--simulate", second ? "--json" : "--pci-id=19A2:0714"},
+                  file, content);
+    directory.write(file);
 }
 
 } // namespace
@@ -108,12 +124,22 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
 }
 
 #ifdef CNATOOL_SWEEP
+// The ways to spoil a line.
+static std::vector<std::string> spoilt(const std::string& line) {
+    std::vector<std::string> lines = {"", line + "\n" + line, line + "\r",
+                                      line + "\xff\xe4%s%n$(x)';|", line + std::string("\0x", 2)};
+    // From 1,023 characters on a line is read in pieces.
+    for (const std::size_t length : {1022, 1023, 1024, 1025, 100000}) {
+        lines.push_back(line + std::string(length - line.size(), '9'));
+    }
+    return lines;
+}
+
 int main() {
     int runs = 0;
     const auto run = [&](const BladeFile& file, const std::string& content) {
         run_with(file, content, ++runs % 2 == 0);
     };
-    const std::string endings[] = {"\r", "\xff\xe4%s%n$(x)';|", std::string("\0x", 2)};
     for (const BladeFile* file = blade; file != blade + 4; ++file) {
         const std::string& content = file->content;
         std::string repeated = content;
@@ -125,23 +151,18 @@ int main() {
         for (std::size_t length = 0; length < content.size(); ++length) {
             run(*file, content.substr(0, length));
         }
-        for (std::size_t kind = 0; kind < 10; ++kind) {
+        const std::size_t kinds = spoilt("").size();
+        for (std::size_t kind = 0; kind < kinds; ++kind) {
             std::string all;
-            for (std::size_t start = 0, end = 0; start < content.size(); start = end + 1) {
-                end = content.find('\n', start);
-                std::string line = content.substr(start, end - start);
-                line =
-                    kind < 3   ? line + endings[kind]
-                    : kind < 4 ? line + "\n" + line
-                    : kind < 5
-                        ? ""
-                        : line + std::string((kind < 6 ? 100000 : 1016 + kind) - line.size(), '9');
-                run(*file, content.substr(0, start) + line + content.substr(end));
-                all += line + "\n";
+            for (const std::string_view line : split(content, '\n')) {
+                const auto start = static_cast<std::size_t>(line.data() - content.data());
+                const std::string bad = spoilt(std::string(line))[kind];
+                run(*file, std::string(content).replace(start, line.size(), bad));
+                all += bad + "\n";
             }
             run(*file, all);
         }
     }
-    std::fprintf(stderr, "%d runs\n", runs);
+    dprintf(STDERR_FILENO, "%d runs\n", runs);
 }
 #endif

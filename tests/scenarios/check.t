@@ -82,10 +82,7 @@ allowed ends it, and a port without storage does not.
   > | Function: 3
   > | Take this sub-system as reference-sub-system for this controller-device.
   > | Take this sub-system as reference-sub-system for vendor Emulex Corporation.
-  > fm_sees '' :: -v 2 $FM => 0
-  > | Function: 2
-  > | Function: 3
-  > | Take *\nTake *
+  > fm_sees '' :: -v 1 $FM => 0 Function: 2\nFunction: 3
   > # A port of another maker or model than the record's is passed over.
   > other_maker :: $FM => 0
   > other_model :: $FM => 0
@@ -106,15 +103,11 @@ Storage is listed when it names its vendor; a port without a serial number is pa
   > | \t\t\t\tMarlovan_SX1
   > | \t\t\t\t7.12\n\n...
   > fx_serial n/a :: -v 1 $BOTH => 0
-  > | \t\tNo serial number => SKIP!
-  > | *SKIP!\n*SKIP!\n*SKIP!
-  > | \t\t\tNo serial number => SKIP!
-  > | *SKIP!\n\n...
+  > | \t\tNo serial number => SKIP!\n...
+  > | \t\t\tNo serial number => SKIP!\n...
   > fx_serial n/ab :: -v 6 $BOTH => 0 ...
   > | \tVendor: Emulex Corporation Model: CNA-10102-FX; SN: n/ab port: 0 function: 0
-  > | \tNo serial number => SKIP
-  > | ---------+*
-  > | \tVendor*\n...
+  > | \tNo serial number => SKIP\n---------+*\n\tVendor*\n...
   > # "n.a" is a serial number like others.
   > no_flash_port :: -v 1 => 22 Error: Could not open file blade//n.a_2_hba_attributes.out
   > EOF
@@ -140,20 +133,16 @@ vendor, models, extra.
   > | \tReference subsystem Marlovan_SX found in Group: Marlovan_SX
   > | \t\t\tAll reference subsystems appear in the same group: Marlovan_SX
   > # One of the models will do; those before the last are told with one more tab.
-  > 'NRB|A,Marlovan_SX1|x' => 0 ...
-  > | \t\t\tCheck subsystem: 'A' *!
-  > | \t\tCheck subsystem: 'Marlovan_SX1' *--> OK
-  > | \tAlready identified reference subsystems: Marlovan_SX1  Subsystem group: A,Marlovan_SX1\n...
+  > 'NRB|A,Marlovan_SX1|x' => 0 ...\n\t\t\tCheck*'A' *!\n\t\tCheck*'Marlovan_SX1' *--> OK\n\tAlready*\n...
   > 'NRB|Marlovan_SX1,A|x' => 0 ...\n\t\t\tCheck subsystem: 'Marlovan_SX1' *--> OK\n\tAlready*\n...
   > # An empty model before a comma allows all, as the last one none.
   > 'NRB|A,,B|x' => 0 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck subsystem: ''*--> OK
   > 'NRB|A,B,|x' => 4 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck*'B'*!\n\t\tCheck subsystem: ''*!
   > # Each subsystem of the vendor is tried until a model allows the storage.
-  > 'NRB|X|x|NRB|Marlovan_S|x|NRB|Marlovan|x' => 0 *\n*'X'*!\n\t\tAtt*\n*'Marlovan_S'*--> OK\n*\n*\n*same group: Marlovan_S
+  > 'NRB|X|x|NRB|Marlovan_S|x|NRB|Marlovan|x' => 0 ...\n*'X'*!\n\t\tAtt*\n*'Marlovan_S'*--> OK\n...\n*group: Marlovan_S
   > # After one that allows all, the others are still looked at: the last model is not.
   > 'NRB| |x|NRB|Y,Z|x|NRB|Marlovan|x' => 0 \t\tAtt*\n\t\tAtt*\n*'Y'*!\n\t\tAtt*
   > 'NRB|,|x|NRB|A|x' => 0 \t\tAtt*\n\t\t\tCheck subsystem: ''*--> OK\n\t\tAtt*
   > # Model lists and products are judged whole, however long.
-  > 'NRB|Marlovan_A1,Marlovan_B1,Marlovan_S|x' => 0 ...\n\t\tCheck subsystem: 'Marlovan_S' *--> OK\n...
-  > product Marlovan_SX1_first_edition :: 'NRB|X,Marlovan_SX1_first_issue|x' => 4 ...\n\t\tCheck subsystem: 'Marlovan_SX1_first_issue' *!
+  > product Marlovan_SX1_first_edition :: 'NRB|X,Marlovan_SX1_first_issue|x' => 4 ...\n*'Marlovan_SX1_first_issue' *!
   > EOF

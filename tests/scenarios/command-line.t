@@ -13,7 +13,7 @@ place, so that a checksum does.
   > /h -d 0 => 0
   > -v 0 --version => 0
   > -d 6 --version => 0
-  > --show-return-codes => 0 \nList of possible return codes\n\n   Valid return codes\n\n   RET_OK                                   0\n...
+  > --show-return-codes => 0 \nList of possible return codes\n\n   Valid return codes\n\n   RET_OK   *0\n...
   > --show-return-code => 0 \nList of possible return codes\n...
   > --show-return-codesx => 3 \n\nInvalid argument*\n
   > EOF
@@ -89,7 +89,8 @@ The selection lists, as they are echoed before the missing conditions file ends 
   > | \tSubDevice-Id 0x11c1
   > -v 6 -pci-id ,1:2 => 15 \nList*\n\n\tVendor-Id 0x0\n\tDevice-Id 0x0\n\tSubVendor-Id 0x0\n\tSubDevice-Id 0x0
   > # A second list overwrites the values of the first that it has values for.
-  > -v 6 -pci-id 1:2:3:4,5:6 -pci-id 7:8,:, => 15 ...\n*"7:8,:,"\n\n*Id 0x7\n*Id 0x8\n*Id 0x3\n*Id 0x4\n\n*Id 0x5\n*Id 0x6\n*0x0\n*0x0
+  > -v 6 -pci-id 1:2:3:4,5:6 -pci-id 7:8,:, => 15 ...
+  > | *"7:8,:,"\n\n* 0x7\n* 0x8\n* 0x3\n* 0x4\n\n* 0x5\n* 0x6\n* 0x0\n* 0x0
   > -v 3 -vid ,10DF,,19A2 -dev 0714 -subvid 1C3E -subdev 11C1 => 15
   > | List of input vendor-ids: ,10DF,,19A2
   > | 0. Vendor-Id: 0x10df
@@ -101,14 +102,12 @@ The selection lists, as they are echoed before the missing conditions file ends 
   > | List of input sub-device-ids: 11C1
   > | 0. SubDevice-Id: 0x11c1
   > # Names keep their blanks and are cut to 19 characters.
-  > -v 3 -vn 'Emulex, QLogic' -mod 'one,two,a model of more than 19 characters' => 15
+  > -v 3 -vn 'Emulex, QLogic' -mod 'a model of more than 19 characters' => 15
   > | List of input vendor-names: Emulex, QLogic
   > | 0. Vendor: Emulex
   > | 1. Vendor:  QLogic
-  > | List of input controller-model strings: one,two,a model*
-  > | 0. Model: one
-  > | 1. Model: two
-  > | 2. Model: a model of more tha
+  > | List of input controller-model strings: a model*
+  > | 0. Model: a model of more tha
   > EOF
 
 What they refuse.

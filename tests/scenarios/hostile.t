@@ -18,8 +18,8 @@ the files beside it.
   > | hbaattributes [a b]
   > | ./hbacmd ./out
   > # What a shell would run, or expand.
-  > '$(touch pwned)' => 12 ./hbacmd hbaattributes '$(touch pwned)' > *\nSuccess*\nhbaattributes [$(touch pwned)]\n./hbacmd ./out
-  > "it's|touch x" => 12 ./hbacmd hbaattributes 'it'\''s|touch x' > *\nSuccess*\nhbaattributes [it's|touch x]\n./hbacmd ./out
+  > '$(touch pwned)' => 12 ./hbacmd hbaattributes '$(touch pwned)' > *\n*\nhbaattributes [$(touch pwned)]\n./hbacmd ./out
+  > "it's|touch x" => 12 ./hbacmd hbaattributes 'it'\''s|touch x' > *\n*\nhbaattributes [it's|touch x]\n./hbacmd ./out
   > 'a*' => 12 ./hbacmd hbaattributes 'a*' > 'blade//a*'\nSuccess*\nhbaattributes [a*]\n./hbacmd ./out
   > '~' => 12 ./hbacmd hbaattributes '~' > 'blade//~_2*'\nSuccess*\nhbaattributes [~]\n./hbacmd ./out
   > # An empty name is no word.
@@ -56,7 +56,8 @@ its status.
   > EOF
   $ { simulated -v 6 $FX; echo "=> $?" >&2; } | true
   => 4
-  $ lay_standin && env --ignore-signal=CHLD "$CNATOOL_STANDIN" --conpath blade $FLASH_BOTH >&-; grep -c download cli/calls.log
+  $ lay_standin && env --ignore-signal=CHLD "$CNATOOL_STANDIN" --conpath blade $FLASH_BOTH >&-
+  $ grep -c download cli/calls.log
   3
 
 A debug run is silent on the screen and writes its log anew for its owner alone, up to an

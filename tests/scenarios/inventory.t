@@ -44,15 +44,18 @@ A list that can't be had ends the inventory, any other command that fails is onl
 Reports that can't be opened end the inventory; the ports stay, without storage.
 
   $ rows simulated lay_blade <<'EOF'
-  > rm blade/VM10250117_2_hba* :: $BOTH => 0 Error: Could not open file blade//VM10250117_2_hba_attributes.out\n\n\t\t---*\n...
-  > rm blade/VM20713302_3_t* :: $BOTH => 0 Error: Could not open file blade//VM20713302_3_target_mapping.out\n\n\t\t---*\n...
+  > rm blade/VM10250117_2_hba* :: $BOTH => 0 Error: Could not open file blade//VM10250117_2_hba_attributes.out\n...
+  > rm blade/VM20713302_3_t* :: $BOTH => 0 Error: Could not open file blade//VM20713302_3_target_mapping.out\n...
   > rm blade/local_hba_list.out :: -v 1 => 13 Error: Could not open file blade//local_hba_list.out\n\nNo Blade*\n
   > EOF
 
 The lines of the list as they are read. A value begins two characters after the colon;
 blanks, tabs and quotes around it do not count.
 
-  $ listed() { printf "$1" >blade/local_hba_list.out; simulated -v 6 >out; status=$?; sed '1,/^Succ/d; /ocmanager/,$d' out; return $status; }
+  $ listed() {
+  >     printf "$1" >blade/local_hba_list.out
+  >     simulated -v 6 >out; status=$?; sed '1,/^Succ/d; /ocmanager/,$d' out; return $status
+  > }
   $ lay_blade && rows listed <<'EOF'
   > # What comes before the first port belongs to none; a port may begin without a value.
   > 'Serial No.: nobody\nPort WWN\nNode WWN\nMode: a Mode\n' => 22 \ta Mode\n

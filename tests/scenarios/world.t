@@ -63,7 +63,7 @@ through it. The trace, which is appended to, is left alone and its command not r
   > eval 'mkfifo $report' => 0 precious
   > eval 'ln -s ../secret $report' => 0 precious
   > eval 'ln secret $report' => 0 precious
-  > eval 'mkdir $report' => 12 returned code -1.\nError: Could not open file blade//VM10250117_0_hba_attributes.out\nprecious
+  > eval 'mkdir $report' => 12 returned code -1.\nError: Could not open file *_0_hba_attributes.out\nprecious
   > eval 'mkfifo $trace' => 10 returned code -1.\nprecious
   > eval 'ln -s ../secret $trace' => 10 returned code -1.\nprecious
   > eval 'ln secret $trace' => 10 returned code -1.\nprecious
