@@ -55,10 +55,8 @@ keeps its carriage return.
   $ rows simulated lay_blade <<'EOF'
   > holding 'A|B|19A2|\n' :: -v 1 => 55
   > holding 'A|B|19A2|0714\r\n' :: -v 1 => 55
-  > holding 'A|B|10000000000000000\n' :: -v 1 => 1 strtoul: Numerical result out of range
   > holding '#\n--+--' :: -v 4 -vn x => 12 ...\nList of allowed*combinations:\n\n\n*********+*\n...
   > # Only a regular file is opened.
   > in_place_of_conditions mkdir :: --silent => 15
   > in_place_of_conditions mkfifo :: --silent => 15
-  > in_place_of_conditions ln -s FC_HBA_Conditions.txt :: --silent => 15
   > EOF

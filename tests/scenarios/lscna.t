@@ -106,7 +106,6 @@ The command line: what can't be listed ends with 2 and a message.
   > -s -C '' => 2 lscna: --conpath: the name of the directory is empty
   > -s -C "$PWD/blade" -p 19A2:0712 => 0 ...
   > -s -C blade -p 19A2:07G0 => 2 lscna: --pci-id: not a list*
-  > -s -C blade -p $(printf %01024d 0) => 2 lscna: --pci-id: the list is too long
   > rm blade/local* :: -s -C blade => 2 lscna: the list of ports, local_hba_list.out, can't be read
   > echo none >blade/local_hba_list.out :: -s -C blade => 2 lscna: the list of ports names no port
   > report 0_hba_attributes 'HBA Attributes for\nDevice ID: 10000000000000000' :: -s -C blade => 2 strtoul*\nlscna*
