@@ -192,28 +192,24 @@ TEST(Ports, ComeInOrder) {
 
 // For each port its flash port and the next port of the chain.
 TEST(Ports, AreChainedFromTheFlashPort) {
+    const auto name = [](const hba_info* port) {
+        return port == nullptr ? "-" : std::string(port->model);
+    };
     for (const auto& [ports, expected] : Rows{
              // A fourth port replaces the third one.
-             {"AF0/0 AF1/1 AF2/2 At3/3", "01 03 0- 0- "},
-             {"AF01/07 Ai0/1 Bi0/0 Bi1/1 ?F0/0", "00 0- 2- 2- -- "},
-             {"AF1/1 AF2/2 BF0/1 BF1/0", "01 0- -- -- "},
+             {"AF0/0 AF1/1 AF2/2 At3/3", "AF0/0>AF1/1 AF0/0>At3/3 AF0/0>- AF0/0>- "},
+             {"AF01/07 Ai0/1 Bi0/0 Bi1/1 ?F0/0", "AF01/07>AF01/07 AF01/07>- Bi0/0>- Bi0/0>- ->- "},
+             {"AF1/1 AF2/2 BF0/1 BF1/0", "AF1/1>AF2/2 AF1/1>- ->- ->- "},
              // A leading part of the others' serial numbers serves them all, before any
              // port with function 1 is looked at; the last candidate serves.
-             {"AXi1/1 AXF2/2 An0/0 AYn5/0", "2- 2- 21 2- "},
-             {"ABF0/0 AF0/0 BF1/1", "11 10 22 "},
+             {"AXi1/1 AXF2/2 An0/0 AYn5/0", "An0/0>- An0/0>- An0/0>AXF2/2 An0/0>- "},
+             {"ABF0/0 AF0/0 BF1/1", "AF0/0>AF0/0 AF0/0>ABF0/0 BF1/1>BF1/1 "},
          }) {
         lay_ports(ports);
         Determine_Flash_Ports();
         std::string links;
         for (const hba_info& port : all_ports()) {
-            for (const hba_info* linked : {port.flash_port, port.next_port}) {
-                hba_info** slot = p_hba_info_list;
-                while (*slot != nullptr && *slot != linked) {
-                    ++slot;
-                }
-                links += *slot == nullptr ? "-" : std::to_string(slot - p_hba_info_list);
-            }
-            links += " ";
+            links += name(port.flash_port) + ">" + name(port.next_port) + " ";
         }
         EXPECT_EQ(links, expected) << ports;
     }

@@ -14,7 +14,6 @@ place, so that a checksum does.
   > -d 6 --version => 0
   > --show-return-codes => 0 \nList of possible return codes\n\n   Valid return codes\n\n   RET_OK   *0\n...
   > --show-return-code => 0 \nList of possible return codes\n...
-  > --show-return-codesx => 3 \n\nInvalid argument*\n
   > EOF
 
 Levels are read before everything else, whatever silences them before that.
@@ -42,13 +41,7 @@ count wherever their text is in a word.
   > bogus --info --silent -v 3 => 3 \n\nInvalid argument 'bogus' !\n
   > x-subvid => 3 Please enter at least one controller sub-vendor-id ("1A0F,2B03,...hex-value")!
   > -v-vid '' => 3 Please enter at least one controller vendor-id ("1A0F,2B03,...hex-value")!
-  > -model -x => 3 Please enter at least one controller-model string ("LPe11002-M4, RM480-TC31n, QLE2460... ")!
-  > -v-vn => 3 Please enter at least one controller vendor-name ("Emulex, QLogic, ... ")!
-  > -d-dev => 3 Please enter at least one controller device-id ("1A0F,2B03,...hex-value")!
   > -dev -x => 3 Please enter at least one controller device-id ("hex-value")!
-  > x-subdev => 3 Please enter at least one controller sub-device-id ("1A0F,2B03,...hex-value")!
-  > -subdev /x => 3 Please enter at least one controller sub-device-id ("hex-value")!
-  > x-pci-id => 3 Please enter at least one pair of vendor- and device-id ("1A0F:2B03,...hex-value")!
   > -pci-id /x => 3 Please enter at least one pair of vendor- and device-id ("1A0F:2B03,...hex-value")
   > # An absolute path begins like an option.
   > --conpath /tmp => 3 Please enter a path for file FC_HBA_Conditions.txt and/or HBA firmware!
@@ -68,7 +61,6 @@ Options that need, or exclude, each other.
   > -mod M => 3 \n\nPlease, also specify vendor-names (option "-vn")\n, if using option "-mod"!
   > -dev 1 => 3 \n\nPlease, also specify one or more vendor-ids*"-vid")\n*"-dev"!
   > -vid 1 -subvid 1 => 3 \n\nPlease, also specify one or more device-ids*"-dev")\n*"-subvid"!
-  > -vid 1 -dev 1 -subdev 1 => 3 \n\nPlease, also specify one or more subvendor-ids*"-subvid")\n*"-subdev"!
   > -vid 1 -dev 1 -subvid 1 => 3 \n\nPlease, also specify one or more subdevice-ids*"-subdev")\n*"-subvid"!
   > EOF
 
@@ -80,31 +72,20 @@ The selection lists, as they are echoed before the missing conditions file ends 
   > # Colons in a row are one, and two commas in a row end the list.
   > -v 6 -pci-id 0x19a2::0710:1C3E:11C1:,,1:2 => 15
   > | \nList of input pci-ids: "0x19a2::0710:1C3E:11C1:,,1:2"
-  > | \n\tVendor-Id 0x19a2
-  > | \tDevice-Id 0x710
-  > | \tSubVendor-Id 0x1c3e
-  > | \tSubDevice-Id 0x11c1
-  > -v 6 -pci-id ,1:2 => 15 \nList*\n\n\tVendor-Id 0x0\n\tDevice-Id 0x0\n\tSubVendor-Id 0x0\n\tSubDevice-Id 0x0
+  > | \n\tVendor-Id 0x19a2\n\tDevice-Id 0x710\n\tSubVendor-Id 0x1c3e\n\tSubDevice-Id 0x11c1
+  > -v 6 -pci-id ,1:2 => 15 \nList*\n\n*Id 0x0\n*Id 0x0\n*Id 0x0\n*Id 0x0
   > # A second list overwrites the values of the first that it has values for.
   > -v 6 -pci-id 1:2:3:4,5:6 -pci-id 7:8,:, => 15 ...
   > | *"7:8,:,"\n\n* 0x7\n* 0x8\n* 0x3\n* 0x4\n\n* 0x5\n* 0x6\n* 0x0\n* 0x0
   > -v 3 -vid ,10DF,,19A2 -dev 0714 -subvid 1C3E -subdev 11C1 => 15
-  > | List of input vendor-ids: ,10DF,,19A2
-  > | 0. Vendor-Id: 0x10df
-  > | 1. Vendor-Id: 0x19a2
-  > | List of input device-ids: 0714
-  > | 0. Device-Id: 0x714
-  > | List of input sub-vendor-ids: 1C3E
-  > | 0. SubVendor-Id: 0x1c3e
-  > | List of input sub-device-ids: 11C1
-  > | 0. SubDevice-Id: 0x11c1
+  > | List of input vendor-ids: ,10DF,,19A2\n0. Vendor-Id: 0x10df\n1. Vendor-Id: 0x19a2
+  > | List of input device-ids: 0714\n0. Device-Id: 0x714
+  > | List of input sub-vendor-ids: 1C3E\n0. SubVendor-Id: 0x1c3e
+  > | List of input sub-device-ids: 11C1\n0. SubDevice-Id: 0x11c1
   > # Names keep their blanks and are cut to 19 characters.
   > -v 3 -vn 'Emulex, QLogic' -mod 'a model of more than 19 characters' => 15
-  > | List of input vendor-names: Emulex, QLogic
-  > | 0. Vendor: Emulex
-  > | 1. Vendor:  QLogic
-  > | List of input controller-model strings: a model*
-  > | 0. Model: a model of more tha
+  > | List of input vendor-names: Emulex, QLogic\n0. Vendor: Emulex\n1. Vendor:  QLogic
+  > | List of input controller-model strings: a model*\n0. Model: a model of more tha
   > EOF
 
 What they refuse.

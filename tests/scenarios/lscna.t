@@ -27,7 +27,6 @@ storage, which their records 1 and 2 allow.
   > mapped 'Vendor ID: NRB\nVendor ID: DGC\nProduct ID: Marlovan_CX1' :: -s => 1 *: its report also names NRB , which record 1 *
   > # No record is for the ports: the nearest one is named.
   > record '19A2 | 0714' '0714 | 19A2' :: -s => 1 *17, functions 2 and 3: no record has *; record 1 has vendor and device id swapped*
-  > record '19A2 | 0714 | 1C3E | 11C1' '0714 | 19A2 | 11C1 | 1C3E' :: -s => 1 *; record 1 has both pairs of ids swapped*
   > record 11C1 11C7 :: -s => 1 *; record 1 has the same vendor and device id only*
   > sed -i /0714/d $conditions :: -s => 1 *: add 'Emulex Corporation | CNA-10102-FX | 19A2 | 0714 | 1C3E | 11C2 | ...'\n*
   > record 10102-F 9 :: -s => 1 *17, *record 1 has its ids, but is for Emulex CNA-9, not *; a flash takes *
@@ -39,7 +38,6 @@ storage, which their records 1 and 2 allow.
   > # The flash.
   > ports '/^Port Number/s/: ./: 3/' :: -s => 1 ...\n*17, functions 0, 1, 2 and 3: the adapter has no flash port*\n...
   > rm blade/fm* :: -s => 1 *17, function 0: no file in blade/ is the firmware image 'fm10102-' of record 3*20
-  > rm blade/CNA*/*.grp :: -s => 1 *no file in blade/CNA-10102-FX/ is the BIOS image '*.grp' of record 4*
   > touch blade/CNA-10102-FX/x.ufi :: -s => 1 *function 0: blade/*.ufi and blade/*.ufi match the firmware image *keep one*
   > sed -n /0714.*11C1/p $conditions >x && cat x >>$conditions :: -s => 1 records 1 and 6 have the same four ids*
   > # The selection.
@@ -102,7 +100,6 @@ The command line: what can't be listed ends with 2 and a message.
   > -V => 0 lscna *.*.*.*
   > --help => 0 Usage: lscna *\n...\n  VERDICT   *
   > -x => 2 lscna: invalid option -- 'x'
-  > -s blade => 2 lscna: 'blade' is no option
   > -s -C '' => 2 lscna: --conpath: the name of the directory is empty
   > -s -C "$PWD/blade" -p 19A2:0712 => 0 ...
   > -s -C blade -p 19A2:07G0 => 2 lscna: --pci-id: not a list*

@@ -3,9 +3,8 @@ What the world around a run does to it.
   $ . "$TESTDIR/setup.sh"
   $ quiet() { real --silent "$@"; echo "=> $?"; }
 
-Runs that start the CLI take turns, from their first command to their end. A signal ends
-the wait; a simulated run does not wait, and a daemon that the CLI leaves behind keeps
-nobody waiting.
+Runs that start the CLI take turns, from their first command to their end. A simulated run
+does not wait, and a daemon that the CLI leaves behind keeps nobody waiting.
 
   $ lay_standin && on download1 'sleep 0.3'
   $ quiet $FLASH_FM & sleep 0.1; quiet $FLASH_FM; wait
@@ -13,20 +12,16 @@ nobody waiting.
   => 0
   $ cut -d ' ' -f 1 cli/calls.log | uniq | xargs
   listhbas hbaattributes targetmapping download listhbas hbaattributes targetmapping download
-  $ flock hbacmd timeout -s INT 0.2 "$CNATOOL_STANDIN" --conpath blade; echo "=> $?"
-  => 124
   $ lay_standin && on hbaattributes1 'sleep 9 >/dev/null 2>&1 & echo $! >cli/pid'
-  $ flock hbacmd "$CNATOOL_STANDIN" --conpath blade --simulate; quiet $FLASH_FM; flock -n hbacmd kill "$(cat cli/pid)"
-  Error: Could not open file blade//local_hba_list.out
-  
-  No Blade Engine was found in this system.
-  
+  $ flock hbacmd "$CNATOOL_STANDIN" --conpath blade --simulate -v 0; quiet $FLASH_FM; flock -n hbacmd kill "$(cat cli/pid)"
   => 0
 
-What is said is there before a wait and before each command.
+What is said is there before a wait, which a signal ends, and before each command.
 
-  $ lay_standin && flock hbacmd timeout -s INT 0.2 "$CNATOOL_STANDIN" --conpath blade -v 3 | head -n 1
+  $ lay_standin && flock hbacmd timeout -s INT 0.2 "$CNATOOL_STANDIN" --conpath blade -v 3; echo "=> $?"
   env: Environment variable TMPDIR is not set.
+  HBA conditions file: blade/FC_HBA_Conditions.txt
+  => 124
   $ on listhbas1 'echo "the list is made" >&2; exit 3'; real -v 6 >out 2>&1; sed -n '/hbacmd listhbas/,/^Fail/p' out
   ./hbacmd listhbas > blade//local_hba_list.out 
   the list is made
@@ -83,11 +78,11 @@ running program, the report of an earlier run does not count.
 
 A read error ends the reading as a file that can't be opened does.
 
-  $ spoilt() { lay_blade && ln -sf /proc/self/mem "blade/$1" && simulated -v 1 $FLASH_FM; }
-  $ rows spoilt <<'EOF'
-  > FC_HBA_Conditions.txt => 55 Error: Fatal error!
-  > local_hba_list.out => 13 Error: Could not open file blade//local_hba_list.out\n\nNo Blade Engine*\n
-  > EOF
+  $ lay_blade && ln -sf /proc/self/mem $conditions && simulated -v 1
+  Error: Fatal error!
+  [55]
+  $ lay_blade && ln -sf /proc/self/mem blade/local_hba_list.out && simulated -v 1 | head -n 1
+  Error: Could not open file blade//local_hba_list.out
 
 Nothing in the environment changes what the shell does.
 
