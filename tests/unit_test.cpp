@@ -2,7 +2,6 @@
 
 #include "classify/classify.h"
 #include "classify/pairing.h"
-#include "conditions/conditions_file.h"
 #include "inventory/adapter_list.h"
 #include "inventory/attributes.h"
 #include "inventory/report.h"
@@ -26,11 +25,6 @@
 
 namespace {
 
-// A name for a file of this process.
-std::string scratch_path(const char* name) {
-    return testing::TempDir() + "cnatool_test_" + std::to_string(getpid()) + "_" + name;
-}
-
 using Rows = std::initializer_list<std::pair<const char*, const char*>>;
 
 TEST(Text, NumbersFollowTheLibraryButEndWithTheText) {
@@ -43,22 +37,6 @@ TEST(Text, NumbersFollowTheLibraryButEndWithTheText) {
     EXPECT_EQ(read("-80000000", 16), INT32_MIN);
     // Only the lower 32 bits count.
     EXPECT_EQ(read("1FFFFFFFF0001", 16), -0xffff);
-}
-
-// Every line of the file counts for its number, the text is the stored one.
-TEST(Conditions, RefusalNamesLineColumnAndStoredText) {
-    const std::string path = scratch_path("conditions");
-    set_levels(1, 0, 1);
-    for (const auto& [columns, refusal] :
-         Rows{{"E|M|19A2|0714|1C3E|nothex7", "Sub-System-Id nothe"},
-              {"E|M|1|2|x", "Sub-Vendor-Id x"},
-              {"E|M|1|", "Device-Id "},
-              {"E|M|-1", "Vendor-Id -1"}}) {
-        std::ofstream(path) << "# comment\n--+--\n" << columns << "\n";
-        EXPECT_EXIT(Read_FC_Config_File(path.c_str()), testing::ExitedWithCode(55),
-                    std::string("^\nError line 3: ") + refusal + " is not a valid hex value!\n$");
-    }
-    static_cast<void>(std::remove(path.c_str()));
 }
 
 // Reports that are read in a directory of their own.
@@ -84,7 +62,7 @@ protected:
         }
     }
 
-    const std::string directory = scratch_path("reports");
+    const std::string directory = testing::TempDir() + "cnatool_test_" + std::to_string(getpid());
 };
 
 // A record has its texts in the order of the labels: they must be these, each cut to its field.

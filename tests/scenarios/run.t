@@ -3,11 +3,19 @@
 A passing check of one port, whole, at the level that shows everything; a tab is
 shown as ">", a divider by one of its groups.
 
-  $ lay_blade && cd blade && sed -i '/0714.*11C1/!d' FC_HBA_Conditions.txt
-  $ sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; /Node\|Fab\|Host\|Mode \|Bus/d; s/Function *: 2/Function: 0/' local_hba_list.out
-  $ sed '/Vers\|HW\|Oper\|Type\|IPL\|Serial/d' VM10250117_2_hba_attributes.out >VM10250117_0_hba_attributes.out
-  $ sed '/^FCP LUN.*1$/,$d; /SCSI [OC]\|Block/d' VM10250117_2_target_mapping.out >VM10250117_0_target_mapping.out
-  $ cd .. && simulated -v 6 -pci-id 19A2:0714:1C3E:11C1 | sed -E 's/([-*]{9}\+){8}/\1/; s/\*{80}/**/' | tr '\t' '>' | cut -c 1-96
+  $ leave_one_record() { sed -i '/0714.*11C1/!d' $conditions; }
+  $ leave_one_port_and_call_it_function_0() {
+  >     sed -i '/c9:a1:00:11/,$!d; /c9:a1:00:12/,$d; s/\(Function *:\) 2/\1 0/' blade/local_hba_list.out
+  >     for report in hba_attributes target_mapping; do mv blade/VM10250117_2_$report.out blade/VM10250117_0_$report.out; done
+  > }
+  $ leave_out_what_reads_alike() {
+  >     sed -i '/Node\|Fab\|Host\|Mode \|Bus/d' blade/local_hba_list.out
+  >     sed -i '/Vers\|HW\|Oper\|Type\|IPL\|Serial/d' blade/VM10250117_0_hba_attributes.out
+  >     sed -i '/^FCP LUN.*1$/,$d; /SCSI [OC]\|Block/d' blade/VM10250117_0_target_mapping.out
+  > }
+  $ shorten() { sed -E 's/([-*]{9}\+){8}/\1/; s/\*{80}/**/' | tr '\t' '>' | cut -c 1-96; }
+  $ lay_blade && leave_one_record && leave_one_port_and_call_it_function_0 && leave_out_what_reads_alike
+  $ simulated -v 6 $FM | shorten
   
   List of input pci-ids: "19A2:0714:1C3E:11C1"
   
@@ -144,6 +152,10 @@ shown as ">", a divider by one of its groups.
 The lines of the whole example at each level, 0 to 6, and of the debug run's log: a message
 or a gate that has moved is seen here.
 
+  $ lines_by_level() {
+  >     for level in 0 1 2 3 4 5 6; do simulated -v "$level" "$@" 2>&1 | wc -l; done | xargs printf '%s '
+  >     simulated -d 6 "$@"; wc -l <blade/Merlie_DLL.log
+  > }
   $ lay_blade && lines_by_level --ctrl-wide-identical --ctrl-vendor-wide-identical $BOTH
   0 64 82 95 219 224 824 795
   $ lines_by_level $FLASH_BOTH

@@ -61,10 +61,3 @@ try_row() {
         row_status=$status row_output=$expected awk -f "$TESTDIR/difference.awk") || failures=$((failures + 1))
     [ -z "$difference" ] || [ "$failures" -gt 3 ] || printf '%s\n' "Row at $(date +%T.%N): $head" "$difference"
 }
-
-# Tells how many lines a run prints at each level, 0 to 6, and how many a debug run logs.
-lines_by_level() {
-    for level in 0 1 2 3 4 5 6; do simulated -v "$level" "$@" 2>&1 | wc -l; done | xargs printf '%s '
-    simulated -d 6 "$@"
-    wc -l <blade/Merlie_DLL.log
-}
