@@ -4,6 +4,7 @@
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
+#include "lscna/reasons.h"
 #include "run/base/selection.h"
 
 #include <cstdint>
@@ -40,15 +41,6 @@ struct Survey {
     std::vector<SurveyedPort> ports; // in the order in which a check walks them
     std::vector<SurveyedFlash> flashes;
     std::vector<std::string> notes; // what is to be looked at, a line each
-};
-
-// The port's four PCI ids as -pci-id takes them; empty when one of them is not known.
-std::string pci_id(const hba_info& port);
-
-// What ports have in common that are not known, or not judged; empty when there is no such cause.
-struct CommonCauses {
-    std::string inventory_ended;
-    std::string conditions_unusable;
 };
 
 // Surveys the ports that the inventory has found, ordered and paired. `selection` (null: every
