@@ -69,7 +69,8 @@ std::vector<std::string> examine_record(const char* line, bool& usable) {
     }
     const bool blank = line[std::strspn(line, " \t\"\r\n")] == '\0';
     if (!blank && std::strchr(line, '|') == nullptr) {
-        return {"no bar: columns stand between bars, and a comment has a number sign"};
+        return {
+            "no bar: columns are separated by bars, tabs do not count; a comment begins with #"};
     }
     if (!blank && values.size() < ids_end) {
         mistakes.emplace_back("a record without all four ids, in the columns 2 to 5");
@@ -85,7 +86,7 @@ std::vector<std::string> examine_line(const char* line, bool& usable) {
     const char* const sign = std::strchr(line, '#');
     const char* const bar = std::strchr(line, '|');
     if (sign != nullptr && bar != nullptr && bar < sign && line[std::strspn(line, " \t")] != '#') {
-        return {"the number sign hides this record: remove it"};
+        return {"a number sign makes the whole line a comment: put the note on a line of its own"};
     }
     return {};
 }

@@ -122,6 +122,9 @@ std::string read_conditions(std::vector<std::string>& notes) {
     const ConditionsNotes found = examine_conditions(pHBAConditionsPath);
     notes.insert(notes.end(), found.texts.begin(), found.texts.end());
     if (found.usable && Read_FC_Config_File(pHBAConditionsPath) == RET_OK) {
+        if (fc_config_entry_list == nullptr) {
+            notes.push_back(format("%s: no record, so nothing is judged or flashed", pHBAConditionsPath));
+        }
         return "";
     }
     if (found.usable) {
@@ -177,8 +180,8 @@ int list_ports(const Call& call) {
     }
     if (result == report_not_opened) {
         causes.inventory_ended =
-            format("the inventory ended at %s, which can't be read: later reports were not taken, "
-                   "and a check passes their ports",
+            format("the inventory ended at %s, which can't be read: later reports are not known, "
+                   "and a check passes what they would show",
                    unread_report.c_str());
         notes.push_back(causes.inventory_ended);
     } else if (result != RET_OK) {

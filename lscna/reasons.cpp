@@ -55,14 +55,7 @@ int record_with_ids(const hba_info& port) {
     return find_record([&](const Record& record) { return describes(record, port, Ids::four); });
 }
 
-std::string missing_record(const hba_info& port) {
-    const std::string id = pci_id(port);
-    if (const int number = record_with_ids(port); number != 0) {
-        return format("record %d has its ids, but is for %s %s, not %s %s: correct it; a flash "
-                      "takes its images all the same",
-                      number, record_at(number).vendor, record_at(number).model, port.mfg,
-                      port.model);
-    }
+std::string swapped_record(const hba_info& port) {
     for (const Swap& swap : swaps) {
         const int number = find_record([&](Record record) {
             if (swap.device) {
@@ -74,10 +67,24 @@ std::string missing_record(const hba_info& port) {
             return describes(record, port, Ids::four);
         });
         if (number != 0) {
-            return format("no record has %s; record %d has %s: correct it", id.c_str(), number,
-                          swap.text);
+            return format("no record has %s; record %d has %s: correct it", pci_id(port).c_str(),
+                          number, swap.text);
         }
     }
+    return "";
+}
+
+std::string missing_record(const hba_info& port) {
+    if (const int number = record_with_ids(port); number != 0) {
+        return format("record %d has its ids, but is for %s %s, not %s %s: correct it; a flash "
+                      "takes its images all the same",
+                      number, record_at(number).vendor, record_at(number).model, port.mfg,
+                      port.model);
+    }
+    if (const std::string swapped = swapped_record(port); !swapped.empty()) {
+        return swapped;
+    }
+    const std::string id = pci_id(port);
     const int same_device =
         find_record([&](const Record& record) { return describes(record, port, Ids::two); });
     if (same_device != 0) {
@@ -109,7 +116,7 @@ std::string unknown_reason(const hba_info& port, const CommonCauses& causes) {
     if (port.attributes != nullptr && without_ids) {
         return "its attributes report lacks a PCI id, or has one that is not hexadecimal";
     }
-    return format("its %s report has no title, as when its command failed or the disk was full",
+    return format("its %s report has no title: see that its command works and the disk has room",
                   without_ids ? "attributes" : "target-mapping");
 }
 

@@ -38,6 +38,9 @@ int find_record(Fits fits) {
 // The first record with the port's four ids, whose images a flash takes; 0 when there is none.
 int record_with_ids(const hba_info& port);
 
+// The record that has the port's ids in another order, as a reason; empty when there is none.
+std::string swapped_record(const hba_info& port);
+
 // Why no record is for the port, with the record that comes nearest.
 std::string missing_record(const hba_info& port);
 

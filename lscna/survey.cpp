@@ -120,21 +120,41 @@ void look_at_image(const SurveyedFlash& flash, const SurveyedImage& image,
                     image_directory(*flash.port).c_str(), image.kind, pattern, flash.record)});
     } else if (image.files.size() > 1) {
         notes.push_back(
-            {flash.port, format("%s match the %s image '%s' of record %d: keep one; "
-                                "which one a flash takes is left to the directory",
+            {flash.port, format("%s match the %s image '%s' of record %d, and a flash "
+                                "takes either: give a longer beginning of the name, or move the "
+                                "others away",
                                 join(image.files).c_str(), image.kind, pattern, flash.record)});
     }
 }
 
-void look_at_flash(const SurveyedFlash& flash, bool record_expected, std::vector<PortNote>& notes) {
-    if (flash.record == 0 && record_expected && !is_fcoe(*flash.port) &&
-        !pci_id(*flash.port).empty()) {
-        notes.push_back({flash.port, missing_record(*flash.port) + "; a flash writes nothing"});
+// Whether the same file would be written as firmware and as BIOS.
+bool is_written_twice(const SurveyedFlash& flash) {
+    return flash.firmware && flash.bios && flash.firmware->files.size() == 1 &&
+           flash.firmware->files == flash.bios->files;
+}
+
+// `surveyed` is the flash port. An FCoE port has the note of its verdict already.
+void look_at_flash(const SurveyedPort& surveyed, const SurveyedFlash& flash, bool record_expected,
+                   std::vector<PortNote>& notes) {
+    const hba_info& port = *flash.port;
+    if (!is_fcoe(port) && !pci_id(port).empty() && surveyed.record == 0) {
+        if (flash.record != 0) {
+            notes.push_back({&port, missing_record(port)});
+        } else if (record_expected) {
+            notes.push_back({&port, missing_record(port) + "; a flash writes nothing"});
+        } else {
+            notes.push_back({&port, swapped_record(port)});
+        }
     }
     for (const auto& image : {flash.firmware, flash.bios}) {
         if (image) {
             look_at_image(flash, *image, notes);
         }
+    }
+    if (is_written_twice(flash)) {
+        notes.push_back({&port, format("%s would be written as firmware and as BIOS: give record "
+                                       "%d longer beginnings of the names",
+                                       flash.bios->files.front().c_str(), flash.record)});
     }
 }
 
@@ -246,7 +266,7 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
         }
         if (is_flash_port(port)) {
             survey.flashes.push_back(survey_flash(port, images));
-            look_at_flash(survey.flashes.back(),
+            look_at_flash(surveyed, survey.flashes.back(),
                           selection != nullptr && causes.conditions_unusable.empty(), notes);
         }
     }

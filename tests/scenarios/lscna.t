@@ -38,11 +38,15 @@ storage, which their records 1 and 2 allow.
   > # The flash.
   > ports '/^Port Number/s/: ./: 3/' :: -s => 1 ...\n*17, functions 0, 1, 2 and 3: the adapter has no flash port*\n...
   > rm blade/fm* :: -s => 1 *17, function 0: no file in blade/ is the firmware image 'fm10102-' of record 3*20
-  > touch blade/CNA-10102-FX/x.ufi :: -s => 1 *function 0: blade/*.ufi and blade/*.ufi match the firmware image *keep one*
+  > touch blade/CNA-10102-FX/x.ufi :: -s => 1 *function 0: blade/*.ufi and blade/*.ufi match the firmware image *
   > sed -n /0714.*11C1/p $conditions >x && cat x >>$conditions :: -s => 1 records 1 and 6 have the same four ids*
   > # The selection.
   > -s -p 19A2:0714,1:2:3:4 => 1 --pci-id: no port has 1:2:3:4
   > -s -p 19A2:0714,,19A2:0700 => 1 --pci-id: '19A2:0700' is not read*
+  > # A flash compares neither manufacturer nor model.
+  > sed -i '/0700.*11C1/s/10102-F/9/' $conditions :: -s => 1 *17, function 0: record 3 has its ids, but is for Emulex CNA-9, *
+  > sed -i '/0700.*11C1/s/19A2 | 0700/0700 | 19A2/' $conditions :: -s => 1 *17, function 0: * swapped*
+  > sed -i '/0700.*11C1/s/fm10102- *| /&fm/' $conditions :: -s => 1 *17, function 0: *would be written as firmware and as BIOS*
   > sed -i /0700.*11C1/d $conditions :: -s -p 19A2:0700 => 1 *17, function 0: no record has *; a flash writes nothing
   > END
 
@@ -51,10 +55,10 @@ Mistakes in the conditions file, with their lines.
   $ noted() { looked "$@" | sed -n 's/^blade.FC_HBA_Conditions.txt://p'; }
   $ written() { printf "$1" >$conditions; }
   $ rows noted lay_good <<'END'
-  > written '\357\273\277#\r\n#\0\n#\r\n' :: -s => 0 1: a byte order mark*\n1: a carriage return*\n2: NUL bytes*
+  > written '\357\273\277#\r\n#\0\n#\r\n' :: -s => 0 1: a byte order mark*\n1: a carriage return*\n2: NUL bytes*\n no record*
   > written '# %01022d\n' :: -s => 0 1: a line of more than 1023 characters*\n1: no bar*
   > rm $conditions :: -s => 0  can't be opened: write it*
-  > written '\n# a | b\n---+--+\nE | 1 # b\n' :: -s => 0 4: the number sign hides this record*
+  > written '\n# a | b\n---+--+\nE | 1 # b\n' :: -s => 0 4: a number sign makes the whole line a comment*
   > written 'E|M|1|2|3\n\nE|M\n' :: -s => 0 1: a record without all four ids*\n3: a record*
   > written 'E|M|1|2|3|4|x|x|f|b|x|x|%010d|%020d|x|%010d\n' :: -s => 0 1: storage vendor '0*0' is cut to 9 characters\n1: *
   > # cnatool refuses the file: the note of the ports would follow from this one.
