@@ -123,7 +123,8 @@ std::string read_conditions(std::vector<std::string>& notes) {
     notes.insert(notes.end(), found.texts.begin(), found.texts.end());
     if (found.usable && Read_FC_Config_File(pHBAConditionsPath) == RET_OK) {
         if (fc_config_entry_list == nullptr) {
-            notes.push_back(format("%s: no record, so nothing is judged or flashed", pHBAConditionsPath));
+            notes.push_back(
+                format("%s: no record, so nothing is judged or flashed", pHBAConditionsPath));
         }
         return "";
     }
