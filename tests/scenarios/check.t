@@ -26,7 +26,7 @@ follows.
   > # No flash after one that has failed; invalid storage fails every check.
   > fm_ports_differ :: -v 3 --flash --ctrl-wide-identical $FM => 1 ...\nOverallSubSystemCheck returned: 0*
   > -v 3 --flash --ctrl-vendor-wide-identical $BOTH => 2 ...\nOverallSubSystemCheck returned: 0*
-  > -v 3 --flash --check-for-valid-subsystem $FX => 4 ...\nOverallSubSystemCheck returned: 0*
+  > -v 6 --flash --check-for-valid-subsystem $FX => 4 ...\nOverallSubSystemCheck returned: 0*
   > -v 3 --flash --ctrl-wide-identical $FX => 4 ...\nOverallSubSystemCheck returned: 0*
   > -v 3 --flash --ctrl-vendor-wide-identical $FX => 4 ...\nOverallSubSystemCheck returned: 0*
   > EOF
@@ -116,7 +116,7 @@ vendor, models, extra.
   $ rows judged <<'EOF'
   > # The vendor counts whole, blank models allow all that it makes.
   > 'NRB| |x' => 0 \t\tAttached storage sub-system:
-  > '|Marlovan|x|NR| |x|NRBX| |x|nrb| |x' => 4
+  > 'NR| |x|NRBX| |x|nrb| |x| |Marlovan|x' => 4
   > # A model allows what begins with it.
   > 'NRB|Marlovan_SX|x' => 0 ...\n\t\tCheck subsystem: 'Marlovan_SX' Attached subsystem: 'Marlovan_SX1'\t\t\t--> OK\n...
   > # One of the models will do; those before the last are told with one more tab.
@@ -131,5 +131,6 @@ vendor, models, extra.
   > 'NRB| |x|NRB|Y,Z|x|NRB|Marlovan|x' => 0 \t\tAtt*\n\t\tAtt*\n*'Y'*!\n\t\tAtt*
   > 'NRB|,|x|NRB|A|x' => 0 \t\tAtt*\n\t\t\tCheck subsystem: ''*--> OK\n\t\tAtt*
   > # Model lists and products are judged whole, however long.
-  > product Marlovan_SX1_first_edition :: 'NRB|X,Marlovan_SX1_first_issue|x' => 4 ...\n*'Marlovan_SX1_first_issue' *!
+  > product Marlovan_SX1_first_edition :: 'NRB|X,Marlovan_SX1_first_ed|x' => 0 ...
+  > 'NRB|X,Marlovan_SX1_first_issue|x' => 4 ...\n*'Marlovan_SX1_first_issue' *!
   > EOF

@@ -107,8 +107,8 @@ record, the files that there are, what is found.
   $ long_name=$(printf %078d 0)
   $ search() {
   >     lay_blade && rm -r blade/*.ufi blade/CNA* && (cd blade && touch $2)
-  >     sed -i "s/| \*.ufi *| \*.grp/| $1 | /" $conditions
-  >     simulated $FLASH_FX | sed -n 's/.*Found.*image: //p; s/.*was found in/none/p'
+  >     sed -i "s/| \*.ufi *| \*.grp/| $1 | $1 /" $conditions
+  >     simulated $FLASH_FX | sed -n 's/.*Found.*image: //p; s/.*was found in/none/p' | uniq
   > }
   $ rows search <<'EOF'
   > '*.grp' 'a.GRP b.gr .c.grp grp' => 0 none *.grp!
