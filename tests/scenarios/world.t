@@ -18,10 +18,11 @@ does not wait, and a daemon that the CLI leaves behind keeps nobody waiting.
 
 What is said is there before a wait, which a signal ends, and before each command.
 
-  $ lay_standin && flock hbacmd timeout -s INT 0.2 "$CNATOOL_STANDIN" --conpath blade -v 3; echo "=> $?"
+  $ lay_standin && flock hbacmd timeout -s INT 0.2 "$CNATOOL_STANDIN" --conpath blade -v 3 >out; echo "=> $?"
+  => 124
+  $ head -n 2 out
   env: Environment variable TMPDIR is not set.
   HBA conditions file: blade/FC_HBA_Conditions.txt
-  => 124
   $ on listhbas1 'echo "the list is made" >&2; exit 3'; real -v 6 >out 2>&1; sed -n '/hbacmd listhbas/,/^Fail/p' out
   ./hbacmd listhbas > blade//local_hba_list.out 
   the list is made
