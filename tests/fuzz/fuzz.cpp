@@ -75,7 +75,7 @@ struct Directory {
     }
 };
 
-// Runs a program, which must return a status of the table, or end with one.
+// Runs a program, which must return a status of the table, or end with one; all of lscna are in it.
 void expect_status(std::int32_t (*program)(int argc, char** argv), std::vector<std::string> words,
                    const BladeFile& file, const std::string& content) {
     std::vector<char*> argv;
@@ -106,7 +106,6 @@ void run_with(const BladeFile& file, const std::string& content, bool second) {
     expect_status([](int argc, char** argv) { return run_tool(argc, argv), -1; },
                   {"./cnatool", "--conpath", ".", "--simulate", "-v", "6", "-pci-id", "19A2:0714"},
                   file, content);
-    // Its statuses are statuses of the table, too.
     expect_status(run_lscna,
                   {"./lscna", "-C", ".", "--simulate", second ? "--json" : "--pci-id=19A2:0714"},
                   file, content);

@@ -14,9 +14,7 @@ the files beside it.
   $ rows hostile <<'EOF'
   > 'a b' => 12
   > | ./hbacmd hbaattributes 'a b' > 'blade//a b_2_hba_attributes.out'
-  > | Success, "hbacmd hbaattributes a b" command returned code 0.
-  > | hbaattributes [a b]
-  > | ./hbacmd ./out
+  > | Success, "hbacmd hbaattributes a b" command returned code 0.\nhbaattributes [a b]\n./hbacmd ./out
   > # What a shell would run, or expand.
   > '$(touch pwned)' => 12 ./hbacmd hbaattributes '$(touch pwned)' > *\n*\nhbaattributes [$(touch pwned)]\n./hbacmd ./out
   > "it's|touch x" => 12 ./hbacmd hbaattributes 'it'\''s|touch x' > *\n*\nhbaattributes [it's|touch x]\n./hbacmd ./out

@@ -16,6 +16,7 @@ storage, which their records 1 and 2 allow.
   $ looked() { lscna -C blade "$@" >screen; status=$?; sed -n '/^To look at/,$s/^  //p' screen; return $status; }
   $ lay_good() { lay_blade && sed -i 's/: NRB/: DGC/; s/_SX1/_CX1/' blade/VM20713302_*_target_mapping.out; }
   $ record() { sed -i "/0714.*11C1/s/$1/$2/" $conditions; }
+  $ flash_record() { sed -i "/0700.*11C1/s/$1/$2/" $conditions; }
   $ ports() { sed -i "$1" blade/local_hba_list.out; }
   $ report() { printf "$2" >"blade/VM10250117_$1.out"; }
   $ mapped() { report 2_target_mapping "Target Mapping for x\n\n\n\n$1"; }
@@ -24,11 +25,14 @@ storage, which their records 1 and 2 allow.
   > mapped 'Vendor ID: NRB\nProduct ID: X' :: -s => 1 *17, function 2: record 1 allows DGC Marlovan_CX,CX4- and NRB *
   > record '| DGC.*' '| DGC | | x' && mapped 'Vendor ID: NRB' :: -s => 1 *17, function 2: record 1 allows any DGC
   > # Only the last LUN is judged.
-  > mapped 'Vendor ID: NRB\nVendor ID: DGC\nProduct ID: Marlovan_CX1' :: -s => 1 *: its report also names NRB , which record 1 *
+  > mapped 'Vendor ID: NRB\nProduct ID: X\nVendor ID: DGC\nProduct ID: Marlovan_CX1' :: -s => 1
+  > | *17, function 2: its report also names NRB X, which record 1 *
   > # No record is for the ports: the nearest one is named.
-  > record '19A2 | 0714' '0714 | 19A2' :: -s => 1 *17, functions 2 and 3: no record has *; record 1 has vendor and device id swapped*
+  > record '19A2 | 0714' '0714 | 19A2' :: -s => 1
+  > | *17, functions 2 and 3: no record has 19A2:0714:1C3E:11C1; record 1 has vendor and device id swapped*
   > record 11C1 11C7 :: -s => 1 *; record 1 has the same vendor and device id only*
-  > sed -i /0714/d $conditions :: -s => 1 *: add 'Emulex Corporation | CNA-10102-FX | 19A2 | 0714 | 1C3E | 11C2 | ...'\n*
+  > sed -i /0714/d $conditions :: -s => 1
+  > | *: add 'Emulex Corporation | CNA-10102-FX | 19A2 | 0714 | 1C3E | 11C2 | ...'\n*11C1 | ...'
   > record 10102-F 9 :: -s => 1 *17, *record 1 has its ids, but is for Emulex CNA-9, not *; a flash takes *
   > # Ports that are not known.
   > report 2_target_mapping '' :: -s => 1 *17, function 2: its target-mapping report has no title*
@@ -44,9 +48,9 @@ storage, which their records 1 and 2 allow.
   > -s -p 19A2:0714,1:2:3:4 => 1 --pci-id: no port has 1:2:3:4
   > -s -p 19A2:0714,,19A2:0700 => 1 --pci-id: '19A2:0700' is not read*
   > # A flash compares neither manufacturer nor model.
-  > sed -i '/0700.*11C1/s/10102-F/9/' $conditions :: -s => 1 *17, function 0: record 3 has its ids, but is for Emulex CNA-9, *
-  > sed -i '/0700.*11C1/s/19A2 | 0700/0700 | 19A2/' $conditions :: -s => 1 *17, function 0: * swapped*
-  > sed -i '/0700.*11C1/s/fm10102- *| /&fm/' $conditions :: -s => 1 *17, function 0: *would be written as firmware and as BIOS*
+  > flash_record 10102-F 9 :: -s => 1 *17, function 0: record 3 has its ids, but is for Emulex CNA-9, *
+  > flash_record '19A2 | 0700' '0700 | 19A2' :: -s => 1 *17, function 0: * swapped*
+  > flash_record 'fm10102- *| ' '&fm' :: -s => 1 *17, function 0: *would be written as firmware and as BIOS*
   > sed -i /0700.*11C1/d $conditions :: -s -p 19A2:0700 => 1 *17, function 0: no record has *; a flash writes nothing
   > END
 
@@ -55,12 +59,12 @@ Mistakes in the conditions file, with their lines.
   $ noted() { looked "$@" | sed -n 's/^blade.FC_HBA_Conditions.txt://p'; }
   $ written() { printf "$1" >$conditions; }
   $ rows noted lay_good <<'END'
-  > written '\357\273\277#\r\n#\0\n#\r\n' :: -s => 0 1: a byte order mark*\n1: a carriage return*\n2: NUL bytes*\n no record*
+  > written '\357\273\277#\r\n#\0\n#\r\n' :: -s => 0 1: a byte order mark*\n1: a carriage*\n2: NUL bytes*\n no record*
   > written '# %01022d\n' :: -s => 0 1: a line of more than 1023 characters*\n1: no bar*
   > rm $conditions :: -s => 0  can't be opened: write it*
   > written '\n# a | b\n---+--+\nE | 1 # b\n' :: -s => 0 4: a number sign makes the whole line a comment*
   > written 'E|M|1|2|3\n\nE|M\n' :: -s => 0 1: a record without all four ids*\n3: a record*
-  > written 'E|M|1|2|3|4|x|x|f|b|x|x|%010d|%020d|x|%010d\n' :: -s => 0 1: storage vendor '0*0' is cut to 9 characters\n1: *
+  > written 'E|M|1|2|3|4|x|x|f|b|x|x|%010d|%020d|x|%010d\n' :: -s => 0 1: storage vendor '0*0' is cut to 9 *\n1: *
   > # cnatool refuses the file: the note of the ports would follow from this one.
   > record 11C1 11G1 :: -s => 0 21: subdevice id '11G1' is not hexadecimal: cnatool refuses the file
   > END
