@@ -9,7 +9,7 @@ man page every status, the program the project's version.
   $ sed 's/\\//g' "$project"/man/cnatool.8* | grep -A 1 '^\.TP' >heads
   $ grep '^\.B' heads | tr ' ' '\n' | grep ^- | sort_words | diff options -
   $ tool --show-return-codes | sed -nE 's/ *(RET_[A-Z_]*) *([0-9]+)/\2 \1/p' >statuses; grep ' RET_' heads | diff statuses -
-  $ sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' "$project/CMakeLists.txt" >it && tool --version | diff it -
+  $ sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' "$project/CMakeLists.txt" >version && tool --version | diff version -
 
 Completion offers nothing that a word on the line excludes, nothing twice, and
 information only alone.
