@@ -81,7 +81,7 @@ std::string missing_record(const hba_info& port) {
                       number, record_at(number).vendor, record_at(number).model, port.mfg,
                       port.model);
     }
-    if (const std::string swapped = swapped_record(port); !swapped.empty()) {
+    if (std::string swapped = swapped_record(port); !swapped.empty()) {
         return swapped;
     }
     const std::string id = pci_id(port);
