@@ -114,16 +114,23 @@ TEST_F(Reports, WhatWasReadBeforeAReadErrorStays) {
     EXPECT_NE(p_hba_info_list, nullptr);
 }
 
+// For the record of a selection, and for that of a condition.
 TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
-    const auto run = [] {
-        std::string words[] = {"./cnatool", "-pci-id", "19A2:0714:1C3E:11C1"};
-        char* argv[] = {words[0].data(), words[1].data(), words[2].data()};
-        dup2(STDERR_FILENO, STDOUT_FILENO);
-        memory_is_exhausted = true;
-        run_tool(3, argv);
-    };
-    EXPECT_EXIT(run(), testing::ExitedWithCode(54),
-                "^Error: cnatool, Memory allocation failed!\n$");
+    for (const int count : {5, 3}) {
+        const auto run = [=] {
+            std::string words[] = {"./cnatool", "--conpath", "examples/blade", "-pci-id", "1:2"};
+            char* argv[std::size(words)];
+            std::transform(std::begin(words), std::end(words), argv,
+                           [](auto& word) { return word.data(); });
+            dup2(STDERR_FILENO, STDOUT_FILENO);
+            memory_is_exhausted = true;
+            run_tool(count, argv);
+        };
+        EXPECT_EXIT(run(), testing::ExitedWithCode(54),
+                    "^(Could not allocate memory for new fc_config_file entry.\n)?"
+                    "Error: cnatool, Memory allocation failed!\n$")
+            << count;
+    }
 }
 
 // Makes the list of ports, each written as its serial number ("?" is missing), the

@@ -59,7 +59,7 @@ allowed ends it, and a port without storage does not.
   $ other_model() { sed -i 's/10102-F /10102-FMX /' $conditions; }
   $ walk() {
   >     simulated "$@" >out; status=$?
-  >     sed -n 's/^\t\tVendor.*PCI f/F/p; s/^\t\t\(Take this\|This\|Subsystem\) /\1 /p' out; return $status
+  >     sed -n 's/^\t\tVendor.*PCI f/F/p; s/^\t\t\(Take this\|This\|All\|Subsystem\) /\1 /p' out; return $status
   > }
   $ rows walk lay_blade <<'EOF'
   > # The second selected port begins the walk again: from level 4 on this tells what is done.
@@ -69,6 +69,7 @@ allowed ends it, and a port without storage does not.
   > | Take this sub-system as reference-sub-system for vendor Emulex Corporation.
   > | Function: 3
   > | This sub-system is consistent with controller specific reference-sub-system (only vendor-id was checked).
+  > | All sub-systems are consistent with vendor specific reference-sub-system (only vendor-id was checked) 10:*.
   > | Function: 2
   > | Subsystem check already done => continue.
   > | Function: 3
@@ -124,7 +125,7 @@ vendor, models, extra.
   > 'NRB|Marlovan_SX1,A|x' => 0 ...\n\t\t\tCheck subsystem: 'Marlovan_SX1' *--> OK\n\tAlready*\n...
   > # An empty model before a comma allows all, as the last one none.
   > 'NRB|A,,B|x' => 0 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck subsystem: ''*--> OK
-  > 'NRB|A,B,|x' => 4 ...\n\t\t\tCheck*'A'*!\n\t\t\tCheck*'B'*!\n\t\tCheck subsystem: ''*!
+  > 'NRB|A,|x' => 4 ...\n\t\t\tCheck*'A'*\t--> Invalid subsystem!\n\t\tCheck*''*\t--> Invalid subsystem!
   > # Each subsystem of the vendor is tried until a model allows the storage.
   > 'NRB|X|x|NRB|Marlovan_S|x|NRB|Marlovan|x' => 0 ...\n*'X'*!\n\t\tAtt*\n*'Marlovan_S'*--> OK\n...\n*group: Marlovan_S
   > # After one that allows all, the others are still looked at: the last model is not.

@@ -59,6 +59,7 @@ What a flash says.
 
   $ fx_serial() { sed -i "/^Serial/s%VM2.*%$1%" cli/reports/local_hba_list.out; }
   $ fx_model() { sed -i "s%CNA-10102-FX%$1%" cli/reports/local_hba_list.out; }
+  $ fx_images_are_a_file() { rm -r blade/CNA-10102-FX && : >blade/CNA-10102-FX; }
   $ rows real lay_standin <<'EOF'
   > # The model's own directory, and both kinds of image.
   > $FLASH_FX => 0 ...
@@ -76,6 +77,7 @@ What a flash says.
   > on targetmapping5 'rm hbacmd' :: $FLASH_FX => 21 ...
   > | Error: Flash command ./hbacmd is not available: No such file or directory\n
   > on targetmapping5 'mv blade old' :: $FLASH_FX => 20 ...\n\t\tFirmware directory is not available: blade/\n
+  > fx_images_are_a_file :: $FLASH_FX => 20 ...\nError: Firmware directory is not available: blade/CNA-10102-FX/\n
   > # An image that goes after the look is left out.
   > on download1 'rm blade/CNA-10102-FX/*.grp' :: $FLASH_FX => 0 ...\n\t\t\tBIOS file is not available: *.grp\n\n\n...
   > # A model never leads out of the directory.
