@@ -91,9 +91,9 @@ Nothing in the environment changes what the shell does.
 A terminal is told what the tool waits for, which is wiped; a file never.
 
   $ watched() { script -qec "'$CNATOOL_STANDIN' --conpath blade $*" /dev/null </dev/null; }
-  $ lay_standin && watched $FLASH_FM | tr '\r' '~' >out; head -c 28 out; tr '~' '\n' <out | grep -e '^port 5' -e '^down'
-  ~adapter list~~            ~port 5 of 11: attributes
-  port 5 of 11: target mapping
+  $ lay_standin && watched $FLASH_FM | tr '\r' '~' >out; head -c 28 out; tr '~' '\n' <out | grep -e '^port 1 ' -e '^down'
+  ~adapter list~~            ~port 1 of 11: attributes
+  port 1 of 11: target mapping
   download of the firmware, Ctrl-C takes effect at its end
   $ watched --silent; watched -v 0; watched -d 1; real $FLASH_FM 2>&1 | grep -c 'of 11'
   0
