@@ -52,11 +52,11 @@ through it. The trace, which is appended to, is left alone and its command not r
   >     grep -o -e 'returned code -.*' -e '^Error.*' out; cat secret; return $status
   > }
   $ rows meets <<'EOF'
-  > eval 'mkfifo $report' => 0 precious
+  > eval 'mkfifo $report && exec 7<>$report' => 0 precious
   > eval 'ln -s ../secret $report' => 0 precious
   > eval 'ln secret $report' => 0 precious
   > eval 'mkdir $report' => 12 returned code -1.\nError: Could not open file *_0_hba_attributes.out\nprecious
-  > eval 'mkfifo $trace' => 10 returned code -1.\nprecious
+  > eval 'mkfifo $trace && exec 7<>$trace' => 10 returned code -1.\nprecious
   > eval 'ln -s ../secret $trace' => 10 returned code -1.\nprecious
   > eval 'ln secret $trace' => 10 returned code -1.\nprecious
   > EOF
