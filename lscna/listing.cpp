@@ -60,16 +60,12 @@ std::string json_storage(const SurveyedPort& surveyed) {
                                     ", \"version\": " + json_text(storage->product_version) + " }";
 }
 
-std::string number_text(int number) {
-    return number == 0 ? "" : std::to_string(number);
-}
-
 std::string json_number(int number) {
     return number == 0 ? "null" : std::to_string(number);
 }
 
 std::string record_of(const SurveyedPort& surveyed) {
-    return number_text(surveyed.record);
+    return surveyed.record == 0 ? "" : std::to_string(surveyed.record);
 }
 
 std::string json_record(const SurveyedPort& surveyed) {

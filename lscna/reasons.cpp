@@ -127,8 +127,7 @@ std::string unjudged_reason(const hba_info& port, int record, const CommonCauses
     const std::vector<hba_info*> chain = adapter_chain(port);
     if (std::find(chain.begin(), chain.end(), &port) == chain.end()) {
         return "a check does not come to it: of an adapter's FCoE ports it judges the first and "
-               "the "
-               "last after the flash port";
+               "the last after the flash port";
     }
     if (record != 0) {
         return "";

@@ -83,9 +83,8 @@ void look_at_luns(const SurveyedPort& surveyed, std::vector<PortNote>& notes) {
 // Adapters of one model share directory and pattern, which are searched once.
 using FoundImages = std::map<std::pair<std::string, std::string>, std::vector<std::string>>;
 
-SurveyedImage survey_image(const char* kind, const char* pattern, const hba_info& port,
+SurveyedImage survey_image(const char* kind, const char* pattern, const std::string& directory,
                            FoundImages& found) {
-    const std::string directory = image_directory(port);
     const auto [images, is_new] = found.try_emplace({directory, pattern});
     if (is_new) {
         images->second = matching_images(directory, pattern);
@@ -98,9 +97,10 @@ SurveyedFlash survey_flash(const hba_info& port, FoundImages& found) {
     flash.record = pci_id(port).empty() ? 0 : record_with_ids(port);
     if (flash.record != 0) {
         const Record& record = record_at(flash.record);
-        flash.firmware = survey_image("firmware", record.firmware_image, port, found);
+        const std::string directory = image_directory(port);
+        flash.firmware = survey_image("firmware", record.firmware_image, directory, found);
         if (record.bios_image[0] != '\0') {
-            flash.bios = survey_image("BIOS", record.bios_image, port, found);
+            flash.bios = survey_image("BIOS", record.bios_image, directory, found);
         }
     }
     return flash;
@@ -177,7 +177,7 @@ bool is_listed(const hba_info& port, const option_input* selection) {
     return selection == nullptr || could_be_meant;
 }
 
-// One line for the ports of an adapter that have the same note.
+// One line for the ports of an adapter that have the same note, however often each has it.
 std::vector<std::string> fold(std::vector<PortNote> notes) {
     std::vector<std::string> lines;
     while (!notes.empty()) {
@@ -256,7 +256,7 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
         });
         if (is_fcoe(port)) {
             judge(surveyed, causes);
-            notes.push_back({&port, surveyed.reason == no_flash_port ? "" : surveyed.reason});
+            notes.push_back({&port, surveyed.reason});
         } else if (!serial_missing(port)) {
             notes.push_back({&port, unknown_reason(port, causes)});
         }
