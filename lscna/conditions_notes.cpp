@@ -1,6 +1,7 @@
 #include "lscna/conditions_notes.h"
 
 #include "conditions/columns.h"
+#include "conditions/conditions_file.h"
 #include "lscna/format.h"
 #include "run/base/text_file.h"
 
@@ -30,23 +31,24 @@ constexpr FileMistake file_mistakes[] = {
      "a line of more than 1023 characters is read in pieces, each as a line: shorten it"},
 };
 
-// What a column is called and, unless its values are read whole, the room for one.
+// What a column is called, how long its values can be, and whether a longer one is refused.
 struct Room {
     const char* column;
     std::size_t length_max;
+    bool is_refused;
 };
 
 Room room_of(std::size_t column) {
-    static fc_config_file_entry record{};
-    static periphery_info_entry subsystem{};
-    constexpr std::size_t whole = piece_length;
     if (column < conditions_columns.size()) {
         const ConditionsColumn& part = conditions_columns[column];
-        return {part.name, part.number != nullptr ? whole : part.field(record).size() - 1};
+        const bool is_text = part.number == nullptr;
+        return {part.name, is_text ? part.field.length_max : piece_length,
+                is_text && part.refused_name != nullptr};
     }
     const SubsystemColumn& part =
         subsystem_columns[(column - conditions_columns.size()) % subsystem_columns.size()];
-    return {part.name, part.whole_field != nullptr ? whole : part.field(subsystem).size() - 1};
+    return {part.name, part.is_model_list ? piece_length : part.field.length_max,
+            part.refused_name != nullptr};
 }
 
 // The mistakes of one record.
@@ -62,6 +64,11 @@ std::vector<std::string> examine_record(const char* line, bool& usable) {
             usable = false;
             mistakes.push_back(
                 format("%s '%s' is not hexadecimal: cnatool refuses the file", room.column, value));
+        } else if (values[i].size() > room.length_max && room.is_refused) {
+            usable = false;
+            mistakes.push_back(
+                format("%s '%s' is longer than %zu characters: cnatool refuses the file",
+                       room.column, value, room.length_max));
         } else if (values[i].size() > room.length_max) {
             mistakes.push_back(
                 format("%s '%s' is cut to %zu characters", room.column, value, room.length_max));

@@ -11,6 +11,7 @@
 #include "lscna/listing.h"
 #include "lscna/survey.h"
 #include "run/base/diagnostics.h"
+#include "run/base/end_run.h"
 #include "run/base/environment.h"
 #include "run/base/return_codes.h"
 #include "run/base/settings.h"
@@ -152,8 +153,8 @@ const char* no_list_reason(std::int32_t result) {
 
 int count_fibre_channel_ports() {
     int count = 0;
-    for (const hba_info& port : all_ports()) {
-        count += has_type(port, "FC") ? 1 : 0;
+    for (const hba_info* port : all_ports()) {
+        count += has_type(*port, "FC") ? 1 : 0;
     }
     return count;
 }
@@ -207,7 +208,7 @@ int list_ports(const Call& call) {
 
 int run_lscna(int argc, char** argv) {
     reset_inherited_state();
-    set_levels(0, 0, 0);
+    VerboseLevel = 0;
     terminal_lines_enabled = true;
     const std::string typed_program = argc > 0 ? argv[0] : "lscna";
     try {
@@ -222,6 +223,8 @@ int run_lscna(int argc, char** argv) {
         resolve_directories(typed_program.c_str());
         const int status = list_ports(call);
         return std::fflush(stdout) == 0 ? status : refuse("standard output can't be written");
+    } catch (const RunEnd&) {
+        return refuse(ending_reason);
     } catch (const std::bad_alloc&) {
         return refuse("out of memory");
     }

@@ -15,10 +15,6 @@ struct CommonCauses {
 // The port's four PCI ids as -pci-id takes them; empty when one of them is not known.
 std::string pci_id(const hba_info& port);
 
-inline bool is_fcoe(const hba_info& port) {
-    return type_begins_with(port, "FCoE");
-}
-
 // The record with a number that counts from 1 over all records.
 const fc_config_file_entry& record_at(int number);
 
@@ -26,9 +22,9 @@ const fc_config_file_entry& record_at(int number);
 template <class Fits>
 int find_record(Fits fits) {
     int number = 0;
-    for (const fc_config_file_entry& record : all_conditions()) {
+    for (const fc_config_file_entry* record : all_conditions()) {
         ++number;
-        if (fits(record)) {
+        if (fits(*record)) {
             return number;
         }
     }

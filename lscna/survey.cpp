@@ -160,8 +160,8 @@ void look_at_flash(const SurveyedPort& surveyed, const SurveyedFlash& flash, boo
 
 bool is_flash_port(const hba_info& port) {
     bool found = false;
-    for (const hba_info& other : all_ports()) {
-        found = found || other.flash_port == &port;
+    for (const hba_info* other : all_ports()) {
+        found = found || other->flash_port == &port;
     }
     return found;
 }
@@ -205,10 +205,11 @@ bool same_ids(const Record& a, const Record& b) {
 
 void look_at_records(std::vector<std::string>& notes) {
     int number = 0;
-    for (const Record& record : all_conditions()) {
+    for (const Record* record : all_conditions()) {
         ++number;
-        const int first = find_record([&](const Record& other) { return same_ids(other, record); });
-        if (first != number && record.vendor_id != 0) {
+        const int first =
+            find_record([&](const Record& other) { return same_ids(other, *record); });
+        if (first != number && record->vendor_id != 0) {
             notes.push_back(format("records %d and %d have the same four ids: a flash takes the "
                                    "first, a check the first that is for the port's model",
                                    first, number));
@@ -228,8 +229,8 @@ std::string group_of(const option_input& entry) {
 void look_at_selection(const option_input* selection, std::vector<std::string>& notes) {
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
         bool found = false;
-        for (const hba_info& port : all_ports()) {
-            found = found || (!serial_missing(port) && selects(*entry, port));
+        for (const hba_info* port : all_ports()) {
+            found = found || (!serial_missing(*port) && selects(*entry, *port));
         }
         if (!found) {
             notes.push_back(format("--pci-id: no port has %s", group_of(*entry).c_str()));
@@ -243,7 +244,8 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
     Survey survey;
     std::vector<PortNote> notes;
     FoundImages images;
-    for (const hba_info& port : all_ports()) {
+    for (const hba_info* listed : all_ports()) {
+        const hba_info& port = *listed;
         if (!serial_missing(port) && port.flash_port == nullptr) {
             notes.push_back({&port, no_flash_port});
         }

@@ -43,7 +43,7 @@ TEST(Text, NumbersFollowTheLibraryButEndWithTheText) {
 class Reports : public testing::Test {
 protected:
     Reports() {
-        set_levels(0, 0, 0);
+        VerboseLevel = 0;
         active_option_simulate = 1;
         std::filesystem::create_directory(directory);
         copy_text(pHBAWorkingPath, directory);
@@ -124,7 +124,7 @@ TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
                            [](auto& word) { return word.data(); });
             dup2(STDERR_FILENO, STDOUT_FILENO);
             memory_is_exhausted = true;
-            run_tool(count, argv);
+            std::exit(run_tool(count, argv));
         };
         EXPECT_EXIT(run(), testing::ExitedWithCode(54),
                     "^(Could not allocate memory for new fc_config_file entry.\n)?"
@@ -137,7 +137,7 @@ TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
 // first letter of its type, its function and, after a slash, its number.
 void lay_ports(const char* list) {
     release_hba_info_list();
-    set_levels(0, 0, 0);
+    VerboseLevel = 0;
     std::istringstream ports(list);
     for (std::string text; ports >> text;) {
         hba_info& port = *get_new_hba_info_entry();
@@ -168,8 +168,8 @@ TEST(Ports, ComeInOrder) {
         lay_ports(before);
         Classify_Ctrl_List();
         std::string order;
-        for (const hba_info& port : all_ports()) {
-            order += (order.empty() ? "" : " ") + std::string(port.model);
+        for (const hba_info* port : all_ports()) {
+            order += (order.empty() ? "" : " ") + std::string(port->model);
         }
         EXPECT_EQ(order, after) << before;
     }
@@ -193,8 +193,8 @@ TEST(Ports, AreChainedFromTheFlashPort) {
         lay_ports(ports);
         Determine_Flash_Ports();
         std::string links;
-        for (const hba_info& port : all_ports()) {
-            links += name(port.flash_port) + ">" + name(port.next_port) + " ";
+        for (const hba_info* port : all_ports()) {
+            links += name(port->flash_port) + ">" + name(port->next_port) + " ";
         }
         EXPECT_EQ(links, expected) << ports;
     }

@@ -27,15 +27,15 @@ void check_port(const option_input& entry, const hba_info& port, global_ctrl_fla
     }
     flags.MatchingCtrlModelInstalled = 1;
     int number = 0;
-    for (const fc_config_file_entry& record : all_conditions()) {
+    for (const fc_config_file_entry* record : all_conditions()) {
         ++number;
-        if (!describes(record, port, named_ids(entry))) {
+        if (!describes(*record, port, named_ids(entry))) {
             continue;
         }
         if (any_level_above(5)) {
-            print_record(record, number);
+            print_record(*record, number);
         }
-        DoSubSystemCheck(port, record, flags);
+        DoSubSystemCheck(port, *record, flags);
     }
 }
 
@@ -58,8 +58,8 @@ bool OverallSubSystemCheck(const option_input* selection, global_ctrl_flags& fla
     flags.CtrlVendorSpecificSubsystemEquality = 1;
     message(3, "\n\n%s\n%s\n", star_divider, star_divider);
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
-        for (const hba_info& port : all_ports()) {
-            check_port(*entry, port, flags);
+        for (const hba_info* port : all_ports()) {
+            check_port(*entry, *port, flags);
         }
     }
     message(3, "\n%s\n%s\n\n", star_divider, star_divider);

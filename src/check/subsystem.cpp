@@ -4,6 +4,7 @@
 #include "run/base/text.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -31,9 +32,9 @@ void accept(std::string_view item, Findings& findings) {
 // allows nothing; an empty item before a comma allows everything.
 void check_items(const char* group, const char* product, Findings& findings) {
     const std::vector<std::string_view> items = split(group, ',');
-    for (const std::string_view& text : items) {
-        const std::string item(text);
-        const bool last = &text == &items.back();
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const std::string item(items[i]);
+        const bool last = i + 1 == items.size();
         if (last && findings.found) {
             return;
         }

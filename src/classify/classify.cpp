@@ -3,6 +3,7 @@
 #include "classify/adapter.h"
 #include "run/base/diagnostics.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -15,31 +16,28 @@ using Slot = hba_info**;
 // Lists the ports; `lead` is written directly before the first.
 void list_ports(const char* lead) {
     int count = 0;
-    for (const hba_info& port : all_ports()) {
-        message(6, "%s%d\t%s %s %s %s %s\n", count == 0 ? lead : "", count, port.model,
-                port.port_type, port.serial_no, port.pci_function, port.port_number);
+    for (const hba_info* port : all_ports()) {
+        message(6, "%s%d\t%s %s %s %s %s\n", count == 0 ? lead : "", count, port->model,
+                port->port_type, port->serial_no, port->pci_function, port->port_number);
         ++count;
     }
 }
 
 void remove_fibre_channel_ports() {
     Slot kept = p_hba_info_list;
-    for (hba_info& port : all_ports()) {
-        if (has_type(port, "FC")) {
-            release_hba_info_entry(&port);
+    for (hba_info* port : all_ports()) {
+        if (has_type(*port, "FC")) {
+            release_hba_info_entry(port);
         } else {
-            *kept++ = &port;
+            *kept++ = port;
         }
     }
     *kept = nullptr;
 }
 
 bool any_port_of(const char* type) {
-    bool found = false;
-    for (const hba_info& port : all_ports()) {
-        found = found || has_type(port, type);
-    }
-    return found;
+    return std::ranges::any_of(all_ports(),
+                               [=](const hba_info* port) { return has_type(*port, type); });
 }
 
 bool next_matches(Slot p) {

@@ -41,13 +41,14 @@ struct fc_config_file_entry {
 // Every record in file order, null-terminated; null as long as there is none.
 extern fc_config_file_entry** fc_config_entry_list;
 
-inline RecordRange<fc_config_file_entry> all_conditions() {
-    return {fc_config_entry_list};
+inline std::span<fc_config_file_entry*> all_conditions() {
+    return records(fc_config_entry_list);
 }
 
-// Make a zero-filled record; null when memory is exhausted. The first appends
-// it to fc_config_entry_list, the caller links the second to its record.
+// Makes a zero-filled record at the end of fc_config_entry_list; null when memory is exhausted.
 fc_config_file_entry* get_new_config_file_entry();
+
+// Makes a zero-filled record, which the caller links; null when memory is exhausted.
 periphery_info_entry* get_new_periphery_info_entry();
 
 // Releases every record with its subsystems, and the list.

@@ -30,20 +30,37 @@ void store_identifier(const ConditionsColumn& column, char* value, const DataLin
     if (number < 0) {
         if (DebugLevel > 0 && PrintDebugOnScreen != 0) {
             std::fprintf(stderr, "\nError line %" PRId64 ": %s %s is not a valid hex value!\n",
-                         line.number, column.refused_name, column.field(*line.entry).data());
+                         line.number, column.refused_name, column.field.of(*line.entry).data());
         }
         end_run(RET_FATAL_ERROR);
     }
     line.entry->*column.number = number;
 }
 
-void store_controller_column(char* value, const DataLine& line) {
+// Whether a value can be stored. A cut one would select more than it says: other images, other
+// adapters.
+bool fits(const char* value, std::size_t length_max, const char* refused_name,
+          const DataLine& line) {
+    if (refused_name == nullptr || std::strlen(value) <= length_max) {
+        return true;
+    }
+    message(1, "\nError line %" PRId64 ": %s '%s' is too long (at most %zu characters)!\n",
+            line.number, refused_name, value, length_max);
+    return false;
+}
+
+std::int32_t store_controller_column(char* value, const DataLine& line) {
     const ConditionsColumn& column = conditions_columns[line.column];
-    copy_text(column.field(*line.entry), value);
+    if (column.number == nullptr &&
+        !fits(value, column.field.length_max, column.refused_name, line)) {
+        return RET_FATAL_ERROR;
+    }
+    copy_text(column.field.of(*line.entry), value);
     if (column.number != nullptr) {
         store_identifier(column, value, line);
     }
     message(5, " %*s |", column.width, value);
+    return RET_OK;
 }
 
 // Hangs a new subsystem at the end of the record's chain.
@@ -67,21 +84,21 @@ std::int32_t store_subsystem_column(const char* value, DataLine& line) {
         }
     }
     const SubsystemColumn& column = subsystem_columns[position];
-    copy_text(column.field(*line.subsystem), value);
-    if (column.whole_field != nullptr) {
-        copy_text(column.whole_field(*line.subsystem), value);
+    if (!fits(value, column.field.length_max, column.refused_name, line)) {
+        return RET_FATAL_ERROR;
+    }
+    copy_text(column.field.of(*line.subsystem), value);
+    if (column.is_model_list) {
+        copy_text(line.subsystem->whole_models, value);
     }
     message(5, " %*s%s", column.width, value, column.border);
     return RET_OK;
 }
 
 std::int32_t store_column(char* value, DataLine& line) {
-    std::int32_t result = RET_OK;
-    if (line.column < conditions_columns.size()) {
-        store_controller_column(value, line);
-    } else {
-        result = store_subsystem_column(value, line);
-    }
+    const std::int32_t result = line.column < conditions_columns.size()
+                                    ? store_controller_column(value, line)
+                                    : store_subsystem_column(value, line);
     ++line.column;
     return result;
 }

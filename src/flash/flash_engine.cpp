@@ -24,6 +24,16 @@ struct ImageKind {
 constexpr ImageKind firmware = {"firmware", "Firmware"};
 constexpr ImageKind bios = {"BIOS", "BIOS"};
 
+// Shows where the images are looked for.
+void print_image_directory(const hba_info& port) {
+    const std::string own = model_directory(port);
+    const bool usable = has_model_directory(port);
+    if (!usable) {
+        message(1, "\t\tFirmware directory is not available: %s\n\n", own.c_str());
+    }
+    message(1, "\tFirmware path: %s\n", usable ? own.c_str() : pHBAFirmwarePath);
+}
+
 // Makes sure that an image is there before anything is written.
 std::int32_t look_for_image(const ImageKind& kind, const std::string& directory,
                             const char* pattern) {
@@ -45,7 +55,7 @@ std::int32_t run_flash_command(const ShellCommand& command) {
     // A half-written image bricks the adapter: signals are deferred until the result of the
     // command has been reported.
     const SignalHold hold;
-    const std::int32_t status = make_ready(command) ? run_command(command, &hold) : -1;
+    const std::int32_t status = run_command(command, &hold);
     if (status == 0) {
         message(1, "\t\tSuccess, flash command returned code %d.\n\n", status);
     } else {
@@ -84,6 +94,7 @@ std::int32_t flash_adapter(const hba_info& port, const fc_config_file_entry& rec
         return RET_FW_NOT_AVAILABLE;
     }
     const std::string directory = image_directory(port);
+    print_image_directory(port);
     const bool with_bios = record.bios_image[0] != '\0';
     std::int32_t result = look_for_image(firmware, directory, record.firmware_image);
     if (result == RET_OK && with_bios) {

@@ -27,18 +27,18 @@ std::int32_t flash_port(const option_input& entry, hba_info& port, global_ctrl_f
     }
     flags.MatchingCtrlModelInstalled = 1;
     int number = 0;
-    for (const fc_config_file_entry& record : all_conditions()) {
+    for (const fc_config_file_entry* record : all_conditions()) {
         ++number;
         // The images of another PCI subsystem of the same device could brick the adapter, so all
         // four identifiers count here, whatever the entry names.
-        if (!describes(record, port, Ids::four)) {
+        if (!describes(*record, port, Ids::four)) {
             continue;
         }
         if (any_level_above(5)) {
             message(2, "\t%s\n\n", divider);
-            print_record(record, number);
+            print_record(*record, number);
         }
-        const std::int32_t result = FlashBladeEngine(port, record, flags);
+        const std::int32_t result = FlashBladeEngine(port, *record, flags);
         if (result != RET_OK) {
             return result;
         }
@@ -50,8 +50,8 @@ std::int32_t flash_port(const option_input& entry, hba_info& port, global_ctrl_f
 
 std::int32_t OverallFlashBladeEngine(const option_input* selection, global_ctrl_flags& flags) {
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
-        for (hba_info& port : all_ports()) {
-            if (const std::int32_t result = flash_port(*entry, port, flags); result != RET_OK) {
+        for (hba_info* port : all_ports()) {
+            if (const std::int32_t result = flash_port(*entry, *port, flags); result != RET_OK) {
                 return result;
             }
         }

@@ -1,6 +1,5 @@
 #include "flash/image_search.h"
 
-#include "run/base/diagnostics.h"
 #include "run/base/return_codes.h"
 #include "run/base/text.h"
 
@@ -27,30 +26,26 @@ bool matches(std::string_view name, std::string_view pattern) {
     return dot != std::string_view::npos && name.substr(dot).starts_with(pattern.substr(1));
 }
 
-// Whether a model can be the name of a directory: text from a report must not lead
-// out of the firmware directory.
-bool names_directory(std::string_view model) {
-    return model.find('/') == std::string_view::npos && model != "." && model != "..";
-}
-
 } // namespace
 
 bool path_exists(const std::string& path) {
     struct stat status {};
-    return path.size() < path_capacity && stat(path.c_str(), &status) == 0;
+    return stat(path.c_str(), &status) == 0;
+}
+
+std::string model_directory(const hba_info& port) {
+    return std::string(pHBAFirmwarePath) + port.model;
+}
+
+bool has_model_directory(const hba_info& port) {
+    const std::string_view model = port.model;
+    const bool inside = model.find('/') == std::string_view::npos && model != "." && model != "..";
+    return inside && path_exists(model_directory(port));
 }
 
 std::string image_directory(const hba_info& port) {
-    std::string directory = std::string(pHBAFirmwarePath) + port.model;
-    if (!names_directory(port.model) || !path_exists(directory)) {
-        message(1, "\t\tFirmware directory is not available: %s\n\n", directory.c_str());
-        directory = pHBAFirmwarePath;
-    }
-    message(1, "\tFirmware path: %s\n", directory.c_str());
-    if (directory != pHBAFirmwarePath) {
-        directory += '/';
-    }
-    return directory;
+    const bool own = port.model[0] != '\0' && has_model_directory(port);
+    return own ? model_directory(port) + "/" : pHBAFirmwarePath;
 }
 
 std::vector<std::string> matching_images(const std::string& directory, std::string_view pattern) {

@@ -9,8 +9,14 @@
 #include <string_view>
 #include <vector>
 
-// Whether there is something at `path`. False for a path of path_capacity characters or more.
+// Whether there is something at `path`.
 bool path_exists(const std::string& path);
+
+// The directory of a model's own images, without a trailing "/".
+std::string model_directory(const hba_info& port);
+
+// Whether it can be used: it exists, and the model does not lead out of the firmware directory.
+bool has_model_directory(const hba_info& port);
 
 // The directory with a trailing "/" in which the images of the port's adapter are looked for: its
 // model's own or the common one.
@@ -22,7 +28,7 @@ std::string image_directory(const hba_info& port);
 // or more are passed over.
 std::vector<std::string> matching_images(const std::string& directory, std::string_view pattern);
 
-// Looks for the first of them. Returns RET_OK with its path in `result`, or
+// Finds the first of matching_images(). Returns RET_OK with its path in `result`, or
 // RET_FW_NOT_AVAILABLE with `result` unchanged.
 std::int32_t FindFlashImage(const char* directory, char (&result)[path_capacity],
                             const char* pattern);

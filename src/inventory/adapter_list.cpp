@@ -5,7 +5,7 @@
 #include "run/base/return_codes.h"
 #include "run/base/text.h"
 
-#include <span>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -14,7 +14,7 @@ namespace {
 // traced by a name, and some begin the next port.
 struct Label {
     std::string_view text;
-    std::span<char> (*field)(hba_info&);
+    TextField<hba_info> field;
     const char* name = nullptr;
     bool begins_port = false;
 };
@@ -54,31 +54,27 @@ void trace(const Label& label, const char* value, std::int32_t count) {
     }
 }
 
-std::int32_t read_list_line(char* line, ListedPorts& ports) {
+void read_list_line(char* line, ListedPorts& ports) {
     const Label* const label = find_label(labels, line);
     if (label == nullptr) {
-        return RET_OK;
+        return;
     }
     if (label->begins_port) {
-        ports.current = get_new_hba_info_entry();
-        if (ports.current == nullptr) {
-            return RET_MEMALLOC_FAIL;
-        }
+        ports.current = &made(get_new_hba_info_entry());
         ++ports.count;
     }
     const char* const value = ports.current == nullptr ? nullptr : line_value(line);
     if (value != nullptr) {
-        copy_text(label->field(*ports.current), value);
+        copy_text(label->field.of(*ports.current), value);
         trace(*label, value, ports.count);
     }
-    return RET_OK;
 }
 
 } // namespace
 
 std::int32_t read_adapter_list() {
-    ReportFile file = report_file("local_hba_list.out");
-    const std::int32_t status = make_report("", {"listhbas"}, file, " \n", "adapter list");
+    const std::string path = report_path("local_hba_list.out");
+    const std::int32_t status = make_report("", {"listhbas"}, path, " \n", "adapter list");
     if (status != 0) {
         message(4, "\nFail, \"hbacmd listhbas\" command returned code %d.\n", status);
         return RET_FATAL_ERROR;
@@ -86,5 +82,5 @@ std::int32_t read_adapter_list() {
     message(6, "\nSuccess, \"hbacmd listhbas\" command returned code %d.\n", status);
 
     ListedPorts ports;
-    return read_report(file, [&](char* line) { return read_list_line(line, ports); });
+    return read_report(path, status, [&](char* line) { read_list_line(line, ports); });
 }

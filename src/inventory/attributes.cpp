@@ -19,7 +19,7 @@ constexpr std::string_view title = "HBA Attributes for";
 // field is traced, and where the value's hexadecimal number goes.
 struct Label {
     std::string_view text;
-    std::span<char> (*field)(Entry&);
+    TextField<Entry> field;
     bool is_traced = false;
     std::uint32_t Entry::*number = nullptr;
 };
@@ -76,20 +76,17 @@ const char* port_identifier(const hba_info& port) {
     return is_fcoe_or_fc(port) ? port.port_wwn : port.permanent_mac;
 }
 
-std::int32_t begin_record(hba_info& port) {
+void begin_record(hba_info& port) {
     // A second title begins the record anew.
     delete port.attributes;
-    port.attributes = get_new_hba_attributes_entry();
-    if (port.attributes == nullptr) {
-        return RET_MEMALLOC_FAIL;
-    }
+    port.attributes = nullptr;
+    port.attributes = &made(get_new_hba_attributes_entry());
     message(6, "\n\t\t%s %s\n\n", title.data(), port_identifier(port));
-    return RET_OK;
 }
 
 // A line without a colon stores nothing. The number is read from the whole value, not a cut text.
 void store_value(const Label& label, char* line, Entry& attributes) {
-    const std::span<char> field = label.field(attributes);
+    const std::span<char> field = label.field.of(attributes);
     if (char* const value = line_value(line)) {
         copy_text(field, value);
         if (label.number != nullptr) {
@@ -101,25 +98,25 @@ void store_value(const Label& label, char* line, Entry& attributes) {
     }
 }
 
-std::int32_t read_attributes_line(char* line, hba_info& port) {
+void read_attributes_line(char* line, hba_info& port) {
     if (begins_with(line, title)) {
-        return begin_record(port);
+        begin_record(port);
+        return;
     }
     const Label* const label = find_label(labels, line);
     if (label != nullptr && port.attributes != nullptr) {
         store_value(*label, line, *port.attributes);
     }
-    return RET_OK;
 }
 
 } // namespace
 
-std::int32_t read_attributes(hba_info& port, const std::string& which) {
-    ReportFile file = report_file(port, "hba_attributes.out");
+std::int32_t read_attributes(hba_info& port, const std::string& progress) {
+    const std::string path = report_path(port, "hba_attributes.out");
     const std::int32_t status = make_report("\n\t\t", {"hbaattributes", port_identifier(port)},
-                                            file, "\n", which + ": attributes");
+                                            path, "\n", progress + ": attributes");
     // Here every type that begins with "FC" is named by its world-wide name.
-    const char* const name = type_begins_with(port, "FC") ? port.port_wwn : port.permanent_mac;
+    const char* const name = begins_with(port.port_type, "FC") ? port.port_wwn : port.permanent_mac;
     if (status == 0) {
         message(6, "\n\t\tSuccess, \"hbacmd hbaattributes %s\" command returned code %d.\n", name,
                 status);
@@ -131,5 +128,5 @@ std::int32_t read_attributes(hba_info& port, const std::string& which) {
         message(1, "\t\tNo serial number => SKIP!\n");
         return RET_OK;
     }
-    return read_report(file, [&](char* line) { return read_attributes_line(line, port); });
+    return read_report(path, status, [&](char* line) { read_attributes_line(line, port); });
 }

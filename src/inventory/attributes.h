@@ -7,5 +7,6 @@
 #include <string>
 
 // Has the CLI report the port and reads that into `attributes`; a port without a serial
-// number gets none. Returns RET_OK, report_not_opened or RET_MEMALLOC_FAIL.
-std::int32_t read_attributes(hba_info& port, const std::string& which);
+// number gets none. `progress`, the port's place in the list, is shown at a terminal. Returns
+// RET_OK or report_not_opened.
+std::int32_t read_attributes(hba_info& port, const std::string& progress);

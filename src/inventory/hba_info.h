@@ -110,13 +110,14 @@ struct hba_info {
 // Every port, null-terminated; null as long as no port was found.
 extern hba_info** p_hba_info_list;
 
-inline RecordRange<hba_info> all_ports() {
-    return {p_hba_info_list};
+inline std::span<hba_info*> all_ports() {
+    return records(p_hba_info_list);
 }
 
-// Make a zero-filled record; null when memory is exhausted. The first appends
-// it to p_hba_info_list, the caller links the others to their port.
+// Makes a zero-filled port at the end of p_hba_info_list; null when memory is exhausted.
 hba_info* get_new_hba_info_entry();
+
+// Makes a zero-filled record, which the caller links to its port; null when memory is exhausted.
 hba_attributes_entry* get_new_hba_attributes_entry();
 target_mapping_entry* get_new_target_mapping_entry();
 
@@ -130,16 +131,17 @@ inline bool serial_missing(const hba_info& port) {
     return begins_with(port.serial_no, "n/a");
 }
 
-// Whether a port's type is the whole text, or begins with it.
+// Whether a port's type is exactly `type`.
 inline bool has_type(const hba_info& port, const char* type) {
     return std::strcmp(port.port_type, type) == 0;
 }
-inline bool type_begins_with(const hba_info& port, const char* type) {
-    return begins_with(port.port_type, type);
+
+inline bool is_fcoe(const hba_info& port) {
+    return begins_with(port.port_type, "FCoE");
 }
 
 // Whether the port is an FCoE or a plain Fibre Channel port. The CLI knows such a port by its
 // world-wide name and reports its storage; any other it knows by its MAC address.
 inline bool is_fcoe_or_fc(const hba_info& port) {
-    return type_begins_with(port, "FCoE") || has_type(port, "FC");
+    return is_fcoe(port) || has_type(port, "FC");
 }

@@ -14,19 +14,15 @@
 
 namespace {
 
-// What is read of each port; `which` is the port's place in the list, shown at a terminal.
-using Stage = std::int32_t (*)(hba_info& port, const std::string& which);
+// What is read of each port; `progress` is its place in the list.
+using Stage = std::int32_t (*)(hba_info& port, const std::string& progress);
 
 std::int32_t for_each_port(Stage stage) {
-    std::size_t count = 0;
-    for ([[maybe_unused]] const hba_info& port : all_ports()) {
-        ++count;
-    }
-    std::size_t number = 0;
-    for (hba_info& port : all_ports()) {
-        const std::string which =
-            "port " + std::to_string(++number) + " of " + std::to_string(count);
-        if (const std::int32_t result = stage(port, which); result != RET_OK) {
+    const std::span<hba_info*> ports = all_ports();
+    for (std::size_t i = 0; i < ports.size(); ++i) {
+        const std::string progress =
+            "port " + std::to_string(i + 1) + " of " + std::to_string(ports.size());
+        if (const std::int32_t result = stage(*ports[i], progress); result != RET_OK) {
             return result;
         }
     }

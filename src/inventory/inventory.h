@@ -6,6 +6,6 @@
 
 // Has the CLI make its reports, reads them and fills p_hba_info_list; in simulate mode reads
 // prepared reports. Returns RET_OK, RET_NO_FC_CTRL_INSTALLED (no port), RET_SCLI_NOT_INSTALLED,
-// RET_FATAL_ERROR (the list could not be made), RET_MEMALLOC_FAIL or 51 (a report could not be
-// opened). What was read until then stays in the list.
+// RET_FATAL_ERROR (the list could not be made) or 51 (a report could not be opened). What was read
+// until then stays in the list. Throws std::bad_alloc when memory is exhausted.
 std::int32_t Get_All_Hba_Info();

@@ -4,51 +4,62 @@
 #include "run/base/diagnostics.h"
 #include "run/base/settings.h"
 #include "run/base/shell_command.h"
-#include "run/base/text.h"
 #include "run/base/text_file.h"
 
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
-ReportFile report_file(const char* name) {
-    return {std::string(pHBAWorkingPath) + "/" + name, true};
+namespace {
+
+// Whether a report would be outside of the working directory: its name holds text from another
+// report. The slash of "n/a" is let through: the command is run for a port without a serial number,
+// too, and its report is never read.
+bool leads_outside(std::string_view path) {
+    std::string_view name = path.substr(std::strlen(pHBAWorkingPath) + 1);
+    if (name.starts_with("n/a")) {
+        name.remove_prefix(3);
+    }
+    return name.find('/') != std::string_view::npos;
 }
 
-ReportFile report_file(const hba_info& port, const char* name) {
-    const std::string_view serial = port.serial_no;
-    const std::string_view function = port.pci_function;
-    std::string path = pHBAWorkingPath;
-    path.append("/").append(serial).append("_").append(function).append("_").append(name);
-    // The slash of "n/a" is let through: the command is run for a port without a serial number,
-    // too, and its report is never read.
-    const std::size_t first = serial_missing(port) ? 3 : 0;
-    const bool inside = serial.find('/', first) == std::string_view::npos &&
-                        function.find('/') == std::string_view::npos;
-    return {std::move(path), inside};
+// Whether the report holds an earlier run's text: its command was not run, and it was not emptied.
+bool is_stale(const std::string& path, std::int32_t status) {
+    std::error_code ignored;
+    return status == -1 && !std::filesystem::is_empty(path, ignored);
+}
+
+} // namespace
+
+std::string report_path(const char* name) {
+    return std::string(pHBAWorkingPath) + "/" + name;
+}
+
+std::string report_path(const hba_info& port, const char* name) {
+    return std::string(pHBAWorkingPath) + "/" + port.serial_no + "_" + port.pci_function + "_" +
+           name;
 }
 
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
-                         ReportFile& file, const char* tail, std::string shown) {
-    ShellCommand command = hbacmd_command(lead, words, Output::rewritten, file.path, tail);
-    command.shown_at_terminal = std::move(shown);
+                         const std::string& path, const char* tail, std::string progress) {
+    ShellCommand command = hbacmd_command(lead, words, Output::rewritten, path, tail);
+    command.shown_at_terminal = std::move(progress);
     message(6, "%s", command.text.c_str());
-    file.usable = file.usable && make_ready(command);
-    return file.usable || active_option_simulate != 0 ? run_command(command) : -1;
+    return active_option_simulate == 0 && leads_outside(path) ? -1 : run_command(command);
 }
 
-std::int32_t read_report(const ReportFile& file,
-                         const std::function<std::int32_t(char* line)>& read_one) {
-    const bool usable = file.usable && file.path.size() < path_capacity;
-    const TextFile report = usable ? open_text_file(file.path.c_str()) : TextFile();
+std::int32_t read_report(const std::string& path, std::int32_t status,
+                         const std::function<void(char* line)>& read_line_of_it) {
+    const bool readable = !leads_outside(path) && !is_stale(path, status);
+    const TextFile report = readable ? open_text_file(path.c_str()) : TextFile();
     LineBuffer line;
     while (report != nullptr && read_line(report, line)) {
-        if (const std::int32_t result = read_one(line); result != RET_OK) {
-            return result;
-        }
+        read_line_of_it(line);
     }
     if (report == nullptr || read_failed(report)) {
-        unread_report = file.path;
-        message(1, "Error: Could not open file %s\n", file.path.c_str());
+        unread_report = path;
+        message(1, "Error: Could not open file %s\n", path.c_str());
         return report_not_opened;
     }
     return RET_OK;

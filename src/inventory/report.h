@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -19,36 +18,29 @@ constexpr std::int32_t report_not_opened = 51;
 // The path of the report at which the inventory ended; empty: it has come to its end.
 inline std::string unread_report;
 
-// A report's file in the working directory.
-struct ReportFile {
-    std::string path;
-    bool usable; // false: it is neither written nor read
-};
-
-ReportFile report_file(const char* name);
-
-// The file of one port's report, named after its serial number and function; not usable when
-// these could lead out of the working directory.
-ReportFile report_file(const hba_info& port, const char* name);
+// The path of a report in the working directory, and of one port's, which is named after its
+// serial number and function.
+std::string report_path(const char* name);
+std::string report_path(const hba_info& port, const char* name);
 
 // Shows and runs the CLI's command line of `words`, framed by `lead` and `tail`, which makes the
-// report; `shown` is shown at a terminal meanwhile. Returns the raw status (see run_command).
-// The file of a command that must not be run becomes unusable: its text is an earlier run's.
+// report at `path`; `progress` is shown at a terminal meanwhile. Returns the raw status, as
+// run_command does; -1 also for a path that leads out of the working directory.
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
-                         ReportFile& file, const char* tail, std::string shown);
+                         const std::string& path, const char* tail, std::string progress);
 
-// Opens a report and hands each line to `read_one` up to the first result other than RET_OK, which
-// it returns. Returns report_not_opened, with a message, when the file is not usable, can't be
-// opened or can't be read to its end; the lines read until then have been handed over.
-std::int32_t read_report(const ReportFile& file,
-                         const std::function<std::int32_t(char* line)>& read_one);
+// Opens the report of a command that returned `status` and hands each line to `read_line_of_it`.
+// Returns RET_OK, or report_not_opened, with a message, for a report of an earlier run, for one
+// outside of the working directory, and for one that can't be opened or can't be read to its end;
+// the lines read until then have been handed over.
+std::int32_t read_report(const std::string& path, std::int32_t status,
+                         const std::function<void(char* line)>& read_line_of_it);
 
-// The first of a report's labels, rows with a `text`, that `line` begins with, or null. Comparing
-// the first characters before the whole saves a run with many ports a tenth of its instructions.
+// The first of a report's labels, rows with a `text`, that `line` begins with, or null.
 template <class Label, std::size_t Count>
 const Label* find_label(const Label (&labels)[Count], const char* line) {
     for (const Label& label : labels) {
-        if (*line == label.text.front() && begins_with(line, label.text)) {
+        if (begins_with(line, label.text)) {
             return &label;
         }
     }

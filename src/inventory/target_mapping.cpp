@@ -20,7 +20,7 @@ constexpr std::string_view title = "Target Mapping for";
 // storage subsystem from another.
 struct Label {
     std::string_view text;
-    std::span<char> (*field)(Entry&);
+    TextField<Entry> field;
     bool names_storage = false;
 };
 
@@ -41,7 +41,7 @@ constexpr int title_lines = 4;
 
 // A line without a colon stores nothing, but shows what the field holds.
 void store_value(const Label& label, char* line, hba_info& port) {
-    const std::span<char> field = label.field(*port.target_mapping);
+    const std::span<char> field = label.field.of(*port.target_mapping);
     if (const char* const value = line_value(line)) {
         if (label.names_storage && field[0] != '\0' && std::strcmp(field.data(), value) != 0) {
             port.storage_differs = 1;
@@ -51,34 +51,30 @@ void store_value(const Label& label, char* line, hba_info& port) {
     message(6, "\t\t\t%s\n", field.data());
 }
 
-std::int32_t read_mapping_line(char* line, bool below_title, hba_info& port) {
+void read_mapping_line(char* line, bool below_title, hba_info& port) {
     if (below_title && port.target_mapping == nullptr && std::strchr(line, ':') != nullptr) {
-        port.target_mapping = get_new_target_mapping_entry();
-        if (port.target_mapping == nullptr) {
-            return RET_MEMALLOC_FAIL;
-        }
+        port.target_mapping = &made(get_new_target_mapping_entry());
     }
     if (begins_with(line, title)) {
         port.mapping_reported = 1;
         message(6, "\n\t\t\t%s %s\n", title.data(), port.port_wwn);
-        return RET_OK;
+        return;
     }
     const Label* const label = find_label(labels, line);
     if (label != nullptr && port.target_mapping != nullptr) {
         store_value(*label, line, port);
     }
-    return RET_OK;
 }
 
 } // namespace
 
-std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
+std::int32_t read_target_mapping(hba_info& port, const std::string& progress) {
     if (!is_fcoe_or_fc(port)) {
         return RET_OK;
     }
-    ReportFile file = report_file(port, report_name);
-    const std::int32_t status = make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, file,
-                                            "\n", which + ": target mapping");
+    const std::string path = report_path(port, report_name);
+    const std::int32_t status = make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, path,
+                                            "\n", progress + ": target mapping");
     if (status == 0) {
         message(6, "\n\t\t\tSuccess, \"hbacmd targetmapping %s\" command returned code %d.\n",
                 port.port_wwn, status);
@@ -91,27 +87,25 @@ std::int32_t read_target_mapping(hba_info& port, const std::string& which) {
         return RET_OK;
     }
 
-    int title_left = title_lines;
-    return read_report(file, [&](char* line) {
-        const bool below_title = title_left == 0;
-        title_left -= below_title ? 0 : 1;
-        return read_mapping_line(line, below_title, port);
+    std::int64_t number = 0;
+    return read_report(path, status, [&](char* line) {
+        ++number;
+        read_mapping_line(line, number > title_lines, port);
     });
 }
 
 std::vector<target_mapping_entry> reported_luns(const hba_info& port) {
     std::vector<target_mapping_entry> luns(1);
-    read_report(report_file(port, report_name), [&](char* line) {
+    read_report(report_path(port, report_name), RET_OK, [&](char* line) {
         const Label* const label = find_label(labels, line);
         const char* const value = label == nullptr ? nullptr : line_value(line);
         if (value != nullptr) {
             // A label that comes again belongs to the next LUN.
-            if (label->field(luns.back())[0] != '\0') {
+            if (label->field.of(luns.back())[0] != '\0') {
                 luns.emplace_back();
             }
-            copy_text(label->field(luns.back()), value);
+            copy_text(label->field.of(luns.back()), value);
         }
-        return RET_OK;
     });
     return luns;
 }

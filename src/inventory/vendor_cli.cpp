@@ -29,7 +29,7 @@ void take_turn() {
     // The CLI's own file is the lock: there is one on the machine, and nothing to create. It
     // stays open to the end of the process, but not in its children: a daemon that the CLI
     // leaves running must not keep every later run waiting.
-    const int descriptor = open(hbacmd_path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    const int descriptor = open(hbacmd_path, O_RDONLY | O_CLOEXEC);
     if (descriptor < 0 || flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
         return;
     }

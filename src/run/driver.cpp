@@ -18,7 +18,6 @@
 #include "run/directories.h"
 #include "run/summary.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -56,7 +55,7 @@ void read_conditions(const char* program_name) {
     }
 }
 
-// `status`, or with --qmr-mode success: for a run that found nothing to work on.
+// How a run that found nothing ends: `status`, or 0 under --qmr-mode.
 std::int32_t status_when_nothing_found(std::int32_t status) {
     return active_option_qmr_mode != 0 ? RET_OK : status;
 }
@@ -76,8 +75,8 @@ void make_inventory(global_ctrl_flags& flags) {
 // Ends the run at a port whose adapter has no flash port: some of the adapter's functions are
 // missing, as without the kernel module that provides them.
 void check_kernel_module() {
-    for (const hba_info& port : all_ports()) {
-        if (!serial_missing(port) && port.flash_port == nullptr) {
+    for (const hba_info* port : all_ports()) {
+        if (!serial_missing(*port) && port->flash_port == nullptr) {
             end_run(RET_KERNEL_MODULE_MISSING);
         }
     }
@@ -155,7 +154,8 @@ void reset_results(global_ctrl_flags& flags) {
     flags.CtrlSpecificSubsystemEquality = 1;
 }
 
-[[noreturn]] void run(const char* typed_program, const char* program_name, Words words) {
+// Returns the exit status of a run that comes to its end.
+std::int32_t run(const char* typed_program, const char* program_name, Words words) {
     const option_input* const selection = read_command_line(program_name, words);
     terminal_lines_enabled = PrintDebugOnScreen != 0 && VerboseLevel != 0;
 
@@ -182,22 +182,23 @@ void reset_results(global_ctrl_flags& flags) {
     if (any_level_above(5)) {
         list_flags("", flags);
     }
-    end_run(exit_status(flags));
+    return exit_status(flags);
 }
 
 } // namespace
 
-void run_tool(int argc, char** argv) {
+int run_tool(int argc, char** argv) {
     reset_inherited_state();
-    set_levels(0, 1, 1);
-    // A caller may start a program without any word at all.
-    const char* const typed_program = argc > 0 ? argv[0] : "cnatool";
-    const char* const program_name = base_name(typed_program);
+    DebugLevel = 0;
+    VerboseLevel = 1;
+    PrintDebugOnScreen = 1;
+    const char* const program_name = base_name(argv[0]);
     try {
-        run(typed_program, program_name,
-            Words(argv + 1, argc > 0 ? static_cast<std::size_t>(argc) - 1 : 0));
+        return run(argv[0], program_name, Words(argv + 1, argv + argc));
+    } catch (const RunEnd& end) {
+        return end.status;
     } catch (const std::bad_alloc&) {
         message(1, "Error: %s, Memory allocation failed!\n", program_name);
-        end_run(RET_MEMALLOC_FAIL);
+        return RET_MEMALLOC_FAIL;
     }
 }

@@ -1,7 +1,6 @@
 #include "run/help.h"
 
 #include "run/base/diagnostics.h"
-#include "run/base/return_codes.h"
 
 #include <iterator>
 
@@ -90,23 +89,45 @@ identical storage-sub-systems.
 
 )help";
 
+constexpr char returnMessage[] = R"codes(
+   Valid return codes
+
+   RET_OK                                   0
+   RET_NOT_CTRL_WIDE_IDENTICAL              1
+   RET_NOT_CTRL_VENDOR_WIDE_IDENTICAL       2
+   RET_BAD_CALL                             3
+   RET_INVALID_CTRL_SUBSYSTEM_COMBINATION   4
+   RET_FLASH_ERROR                         10
+   RET_NO_FC_HBA_CONDITIONS_ENTRY          11
+   RET_NO_MATCHING_CTRL_FOUND              12
+   RET_NO_FC_CTRL_INSTALLED                13
+   RET_FC_HBA_CONDITIONS_MISSING           15
+   RET_INFOFILE_MISSING                    16
+   RET_FW_NOT_AVAILABLE                    20
+   RET_SCLI_NOT_INSTALLED                  21
+   RET_KERNEL_MODULE_MISSING               22
+   RET_MEMALLOC_FAIL                       54
+   RET_FATAL_ERROR                         55
+
+)codes";
+
 } // namespace
 
-void print_version() {
+void print_version(const char* /*program_name*/) {
     message(1, versionMessageBuild, version[0], version[1], version[2], version[3]);
 }
 
-void print_tool_information(const char* program) {
-    message(1, ToolInfoMessageBuild, program, version[0], version[1], version[2], version[3]);
+void print_tool_information(const char* program_name) {
+    message(1, ToolInfoMessageBuild, program_name, version[0], version[1], version[2], version[3]);
 }
 
-void print_help(const char* program) {
-    print_tool_information(program);
-    message(1, helpMessage_1, program);
-    message(1, helpMessage_2, program);
-    message(1, helpMessage_3, program);
+void print_help(const char* program_name) {
+    print_tool_information(program_name);
+    message(1, helpMessage_1, program_name);
+    message(1, helpMessage_2, program_name);
+    message(1, helpMessage_3, program_name);
 }
 
-void print_return_codes() {
-    message(1, "\nList of possible return codes\n%s", returnMessage().c_str());
+void print_return_codes(const char* /*program_name*/) {
+    message(1, "\nList of possible return codes\n%s", returnMessage);
 }

@@ -46,7 +46,9 @@ bool is_debug_word(std::string_view word) {
 }
 
 void silence() {
-    set_levels(0, 0, 0);
+    DebugLevel = 0;
+    VerboseLevel = 0;
+    PrintDebugOnScreen = 0;
 }
 
 void normalize_words(Words words) {
@@ -58,7 +60,7 @@ void normalize_words(Words words) {
 }
 
 void read_levels(Words words) {
-    if (std::any_of(words.begin(), words.end(), is_silent_word)) {
+    if (std::ranges::any_of(words, is_silent_word)) {
         silence();
     }
     bool verbose_given = false;
@@ -83,7 +85,9 @@ void read_levels(Words words) {
         }
     }
     if (verbose_given && debug_given) {
-        set_levels(0, 1, 1);
+        DebugLevel = 0;
+        VerboseLevel = 1;
+        PrintDebugOnScreen = 1;
         message(1, "\nUsing options --debug and -v simultaneously is not supported!\n");
         end_run(RET_BAD_CALL);
     }

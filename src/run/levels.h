@@ -18,7 +18,6 @@ void silence();
 // Turns a leading "/" of every word into "-".
 void normalize_words(Words words);
 
-// Sets the levels from the verbose, debug and silent words. A word that asks for silence hides
-// even the refusals of this function: a bad level, or verbose and debug levels together, end the
-// run with RET_BAD_CALL.
+// Sets the levels from the verbose, debug and silent words. A bad level ends the run with
+// RET_BAD_CALL, silently if any word says --silent; so do both levels together, never silently.
 void read_levels(Words words);

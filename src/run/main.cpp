@@ -1,5 +1,5 @@
 #include "run/driver.h"
 
 int main(int argc, char** argv) {
-    run_tool(argc, argv);
+    return run_tool(argc, argv);
 }

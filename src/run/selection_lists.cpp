@@ -7,8 +7,6 @@
 #include "run/base/text.h"
 
 #include <array>
-#include <new>
-#include <span>
 #include <string>
 
 namespace {
@@ -17,7 +15,7 @@ std::int32_t option_input_cnt = 0;
 
 // Where the items of a kind go and what the messages call them. Only identifiers have a number.
 struct Target {
-    std::span<char> (*field)(option_input&);
+    TextField<option_input> field;
     const char* list_name;
     const char* item_name;
     std::int32_t option_input::*number = nullptr;
@@ -42,10 +40,7 @@ constexpr auto pci_fields =
 // The entry that `link` leads to, made when there is none.
 option_input& entry_at(option_input*& link) {
     if (link == nullptr) {
-        link = get_new_option_input_buffer();
-    }
-    if (link == nullptr) {
-        throw std::bad_alloc();
+        link = &made(get_new_option_input_buffer());
     }
     return *link;
 }
@@ -59,7 +54,7 @@ void store_id(option_input& entry, const Target& target, std::string_view item,
         message(level, "Error: %s %s is not a valid hex value!\n", target.item_name, text.c_str());
         end_run(RET_FATAL_ERROR);
     }
-    copy_text(target.field(entry), text.c_str());
+    copy_text(target.field.of(entry), text.c_str());
     entry.*target.number = number;
 }
 
@@ -67,7 +62,7 @@ void store_item(option_input& entry, const Target& target, std::string_view item
     if (target.number != nullptr) {
         store_id(entry, target, item, 1);
     } else {
-        copy_text(target.field(entry), item);
+        copy_text(target.field.of(entry), item);
     }
 }
 
@@ -76,7 +71,7 @@ void echo_item(option_input& entry, const Target& target, int index) {
         message(2, "%d. %s: 0x%x\n", index, target.item_name,
                 static_cast<std::uint32_t>(entry.*target.number));
     } else {
-        message(2, "%d. %s: %s\n", index, target.item_name, target.field(entry).data());
+        message(2, "%d. %s: %s\n", index, target.item_name, target.field.of(entry).data());
     }
 }
 

@@ -38,8 +38,8 @@ void list_conditions() {
     message(4, "\n%s\n", star_divider);
     message(4, "\nList of allowed Fibre-Channel-Controller and Online-Storage-System "
                "combinations:\n\n");
-    for (const fc_config_file_entry& entry : all_conditions()) {
-        list_entry(entry);
+    for (const fc_config_file_entry* entry : all_conditions()) {
+        list_entry(*entry);
     }
     message(4, "\n%s\n", star_divider);
 }
@@ -48,9 +48,9 @@ void list_controllers() {
     const std::string stars(80, '*');
     message(3, "\n%s \n", stars.c_str());
     message(3, "\nList of Fibre-Channel-Controller and attached Online-Storage-Systems:\n\n");
-    for (const hba_info& port : all_ports()) {
-        if (has_type(port, "FCoE")) {
-            list_controller(port);
+    for (const hba_info* port : all_ports()) {
+        if (has_type(*port, "FCoE")) {
+            list_controller(*port);
         }
     }
     message(3, "\n%s\n", stars.c_str());

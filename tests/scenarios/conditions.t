@@ -8,22 +8,22 @@ pieces, and nothing after a NUL counts.
   $ lay_blade && cat >$conditions <<'EOF'
   > # a comment
   > Emulex | "ModelA" | 19a2 | 0714 | 1C3E | 11C1 | c6 | c7 | fw | bios | c10 | c11 | DGC | A,B | x | NRB | C | x
-  > |Emulex||Model with a very long name|0x19A2||000000714
+  > |Emulex||Model of 19 letters|0x19A2||000000714|1|1|a long column 6, cut
   > 
   > Emulex|M|1|2|3|4|5|6|7|8|9|10|V|M # hidden
   > ----+--+---
   > ||
-  > A|B|0|2|3|4|x|x|f|b|x|x| |blank vendor|x|a long vendor|models|extra|
+  > A|B|0|2|3|4|x|x|f|b|x|x| |blank vendor|x|9 letters|models|extra|
   > EOF
   $ printf 'A|B\0 no bar counts after a NUL|x\n%1030s||\nC|D\n||' >>$conditions
   $ rm blade/local_hba_list.out && simulated -v 5 >out
   [13]
   $ sed '1,/^HBA cond/d; /^\*/,$d' out >table && sed 's/  *|/ |/g; s/   */ /g' table
    Emulex | ModelA | 19a2 | 0714 | 1C3E | 11C1 | c6 | c7 | fw | bios | c10 | c11 | DGC | A,B | x NRB | C | x
-   Emulex | Model with a very long name | 0x19A2 | 000000714 |
+   Emulex | Model of 19 letters | 0x19A2 | 000000714 | 1 | 1 | a long column 6, cut |
    |
    |
-   A | B | 0 | 2 | 3 | 4 | x | x | f | b | x | x | | blank vendor | x a long vendor | models | extra |
+   A | B | 0 | 2 | 3 | 4 | x | x | f | b | x | x | | blank vendor | x 9 letters | models | extra |
    A | B |
    |
    | |
@@ -37,10 +37,10 @@ pieces, and nothing after a NUL counts.
   >>1) DGC        A,B
   >>2) NRB        C
   
-  Emulex     Model with a very l
+  Emulex     Model of 19 letters
   
   A          B
-  >>1) a long ve  models
+  >>1) 9 letters  models
   
   A          B
   
@@ -55,6 +55,10 @@ keeps its carriage return.
   $ rows simulated lay_blade <<'EOF'
   > holding 'A|B|19A2|\n' :: -v 1 => 55
   > holding 'A|B|19A2|0714\r\n' :: -v 1 => 55
+  > # A value that selects and would be cut.
+  > holding '\nE|Model of 20 letters.|' :: -v 1 => 55
+  > |
+  > | Error line 2: Model 'Model of 20 letters.' is too long (at most 19 characters)!\nError: Fatal error!
   > holding '#\n--+--' :: -v 4 -vn x => 12 ...\nList of allowed*combinations:\n\n\n*********+*\n...
   > # Only a regular file is opened.
   > in_place_of_conditions mkdir :: --silent => 15

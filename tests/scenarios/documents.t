@@ -4,7 +4,7 @@ The man page and the completion name every option of the table and no other, the
 man page every status, the program the project's version.
 
   $ sort_words() { tr -s ' \n' '\n' | grep . | sort -u; }
-  $ grep -oE '"-[^" ]+"' "$project/src/run/options.cpp" | tr -d '"' | sort_words >options; wc -l <options
+  $ grep -oE '^    {"-[^" ]+"' "$project/src/run/command_line.cpp" | tr -d ' {"' | sort_words >options; wc -l <options
   25
   $ sed 's/\\//g' "$project"/man/cnatool.8* | grep -A 1 '^\.TP' >heads
   $ grep '^\.B' heads | tr ' ' '\n' | grep ^- | sort_words | diff options -

@@ -119,7 +119,6 @@ record, the files that there are, what is found.
   > .AB .AB => 0 none .AB!
   > # A pattern has up to 79 characters.
   > ${long_name}1 ${long_name}2 => 0 none 0*1!
-  > ${long_name}12 ${long_name}1 => 0 blade/0*1 '0*1'
   > EOF
 
 A signal waits for the download that runs: it ends, and its result is told, before the

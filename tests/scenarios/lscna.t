@@ -64,7 +64,7 @@ Mistakes in the conditions file, with their lines.
   > rm $conditions :: -s => 0  can't be opened: write it*
   > written '\n# a | b\n---+--+\nE | 1 # b\n' :: -s => 0 4: a number sign makes the whole line a comment*
   > written 'E|M|1|2|3\n\nE|M\n' :: -s => 0 1: a record without all four ids*\n3: a record*
-  > written 'E|M|1|2|3|4|x|x|f|b|x|x|%010d|%020d|x|%010d\n' :: -s => 0 1: storage vendor '0*0' is cut to 9 *\n1: *
+  > written 'E|M|1|2|3|4|x|x|f|b|x|x|%010d|%020d|x|%010d\n' :: -s => 0 1: storage vendor '0*0' is longer than 9 *refuses the file\n1: *
   > # cnatool refuses the file: the note of the ports would follow from this one.
   > record 11C1 11G1 :: -s => 0 21: subdevice id '11G1' is not hexadecimal: cnatool refuses the file
   > END

@@ -17,12 +17,6 @@ bool hidden(std::int32_t level, const std::FILE* stream) {
 
 } // namespace
 
-void set_levels(std::int32_t debug, std::int32_t verbose, std::int32_t screen) {
-    DebugLevel = debug;
-    VerboseLevel = verbose;
-    PrintDebugOnScreen = screen;
-}
-
 int PrintDebug(std::int32_t level, const char* text, std::FILE* stream) {
     if (hidden(level, stream)) {
         return 0;

@@ -13,13 +13,11 @@ inline std::int32_t PrintDebugOnScreen = 1; // 0 or 1: whether the screen may be
 // The longest message that is written, without its terminating NUL.
 constexpr std::size_t message_length_max = 4095;
 
-// Separators of the messages: eight groups of ten characters.
-#define CNATOOL_EIGHT_TIMES(text) text text text text text text text text
-constexpr const char* divider = CNATOOL_EIGHT_TIMES("---------+");
-constexpr const char* star_divider = CNATOOL_EIGHT_TIMES("*********+");
-
-// Sets the three levels. A run starts with 0, 1 and 1.
-void set_levels(std::int32_t debug, std::int32_t verbose, std::int32_t screen);
+// Separators of the messages.
+constexpr const char* divider =
+    "---------+---------+---------+---------+---------+---------+---------+---------+";
+constexpr const char* star_divider =
+    "*********+*********+*********+*********+*********+*********+*********+*********+";
 
 // Writes `text` unchanged where the levels and the screen switch send it: standard output, standard
 // error or `stream` (may be null). Returns 1 when it was written, 0 when it was hidden.

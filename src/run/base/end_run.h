@@ -1,8 +1,13 @@
-// The single exit of a run.
+// The end of a run where it stands.
 #pragma once
 
 #include <cstdint>
 
-// Flushes the messages and ends the process with `status`. It is alone in its file so that
-// another program can define its own.
-[[noreturn]] void end_run(std::int32_t status);
+// Thrown to end the run with a status; the entry point of the program catches it.
+struct RunEnd {
+    std::int32_t status;
+};
+
+[[noreturn]] inline void end_run(std::int32_t status) {
+    throw RunEnd{status};
+}

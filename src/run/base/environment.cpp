@@ -8,7 +8,7 @@
 #include <unistd.h>
 
 void reset_inherited_state() {
-    // The lowest free descriptor is taken, so the loop ends after the third.
+    // open() takes the lowest free one; above 2, all three are open.
     int descriptor = 0;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
         descriptor = open("/dev/null", O_RDWR);

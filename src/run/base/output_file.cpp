@@ -9,9 +9,9 @@ bool prepare_output(const std::string& path, Output output) {
     if (lstat(path.c_str(), &status) != 0) {
         return errno == ENOENT;
     }
-    const bool own_file = S_ISREG(status.st_mode) && status.st_nlink == 1;
+    const bool plain_file = S_ISREG(status.st_mode) && status.st_nlink == 1;
     if (output == Output::appended) {
-        return own_file;
+        return plain_file;
     }
-    return (own_file ? truncate(path.c_str(), 0) : unlink(path.c_str())) == 0;
+    return (plain_file ? truncate(path.c_str(), 0) : unlink(path.c_str())) == 0;
 }

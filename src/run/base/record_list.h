@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <iterator>
 #include <new>
+#include <span>
 
 // Makes a zero-filled record and appends it to `list`, which grows by one slot
 // and keeps its terminating null. Returns null, with the list and the count as
@@ -40,33 +40,30 @@ Record* new_counted_record(std::int32_t& count) {
     return record;
 }
 
-// The records of such an array, one after another; none of an absent array.
+// The record that was made. Throws std::bad_alloc for null.
 template <class Record>
-struct RecordRange {
-    struct Iterator {
-        Record** slot;
+Record& made(Record* record) {
+    if (record == nullptr) {
+        throw std::bad_alloc();
+    }
+    return *record;
+}
 
-        Record& operator*() const { return **slot; }
-        Iterator& operator++() {
-            ++slot;
-            return *this;
-        }
-        bool operator!=(std::default_sentinel_t /*end*/) const {
-            return slot != nullptr && *slot != nullptr;
-        }
-    };
-
-    Record** list;
-
-    [[nodiscard]] Iterator begin() const { return {list}; }
-    [[nodiscard]] static std::default_sentinel_t end() { return {}; }
-};
+// The slots of such an array up to its terminating null; none of an absent array.
+template <class Record>
+std::span<Record*> records(Record** list) {
+    std::size_t count = 0;
+    while (list != nullptr && list[count] != nullptr) {
+        ++count;
+    }
+    return {list, count};
+}
 
 // Empties an array: every record is handed to `release`, then the slots go.
 template <class Record>
 void release_records(Record**& list, std::int32_t& count, void (*release)(Record*)) {
-    for (Record& record : RecordRange<Record>{list}) {
-        release(&record);
+    for (Record* record : records(list)) {
+        release(record);
     }
     std::free(list);
     list = nullptr;

@@ -13,15 +13,13 @@ inline std::int32_t active_option_ctrl_vendor_wide_identical = 0;
 inline std::int32_t active_option_flash = 0;
 inline std::int32_t active_option_qmr_mode = 0; // nothing found is no failure
 
-constexpr const char* conditions_file_name = "FC_HBA_Conditions.txt";
+constexpr std::string_view conditions_file_name = "FC_HBA_Conditions.txt";
 
 // The room for a path with its terminating NUL.
 constexpr std::size_t path_capacity = 1024;
 
-// The longest directory that leaves room for "/" and the conditions file's name.
-constexpr std::size_t directory_length_max = 1001;
-static_assert(directory_length_max + 1 + std::string_view(conditions_file_name).size() <
-              path_capacity);
+// The longest directory that leaves room for "/", the conditions file's name and the NUL.
+constexpr std::size_t directory_length_max = path_capacity - conditions_file_name.size() - 2;
 
 inline char pHBAConditionsPath[path_capacity]; // the conditions file
 inline char pHBAFirmwarePath[path_capacity];   // the images' directory, with a trailing "/"

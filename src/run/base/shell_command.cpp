@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <fstream>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -25,8 +24,8 @@ constexpr int ignored_under_hold[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGXCPU}
 // In the child: becomes the shell.
 [[noreturn]] void become_shell(const char* text, const SignalHold* hold) {
     if (hold == nullptr) {
-        // What the tool itself ignores (reset_inherited_state), or its caller.
-        for (const int signal : {SIGPIPE, SIGXFSZ, SIGXCPU}) {
+        // Ignored signals survive exec: give the CLI the defaults.
+        for (const int signal : {SIGPIPE, SIGXFSZ}) {
             std::signal(signal, SIG_DFL);
         }
     } else {
@@ -68,16 +67,15 @@ std::string shell_word(std::string_view value) {
     return word + "'";
 }
 
-bool make_ready(const ShellCommand& command) {
-    return active_option_simulate != 0 || (command.text.size() <= command_length_max &&
-                                           prepare_output(command.output_path, command.output));
-}
-
 // The library's system() would make the tool deaf to Ctrl-C while a report is made, and let the
 // terminal reach a download.
 std::int32_t run_command(const ShellCommand& command, const SignalHold* hold) {
     if (active_option_simulate != 0) {
         return 0;
+    }
+    if (!prepare_output(command.output_path, command.output) ||
+        command.text.size() > command_length_max) {
+        return -1;
     }
     // Someone who watches the run sees the messages before the command starts.
     std::fflush(nullptr);
@@ -86,10 +84,5 @@ std::int32_t run_command(const ShellCommand& command, const SignalHold* hold) {
     if (child == 0) {
         become_shell(command.text.c_str(), hold);
     }
-    if (child < 0) {
-        // The shell would have created the file; the report of one port counts as empty.
-        const std::ofstream created(command.output_path, std::ios::app);
-        return -1;
-    }
-    return wait_for(child);
+    return child < 0 ? -1 : wait_for(child);
 }

@@ -25,12 +25,9 @@ struct ShellCommand {
 // A longer command is not run.
 constexpr std::size_t command_length_max = 1023;
 
-// Makes a command's output file ready (prepare_output). Returns false when the command must not be
-// run: it is too long, or must not write to its file. In simulate mode nothing is touched.
-bool make_ready(const ShellCommand& command);
-
-// Runs a command that is ready through the shell and waits for it. Ctrl-C reaches the command too;
-// under a `hold` it is out of reach of the terminal and of the tool's process group. Returns the
-// raw wait status; -1 when the command can't be started, with an empty report. In simulate mode
-// nothing is started and the status is 0: no other function starts a process.
+// Makes the output file ready (prepare_output), runs the command through the shell and waits for
+// it. Ctrl-C reaches the command too; under a `hold` it is out of reach of the terminal and of the
+// tool's process group. Returns the raw wait status; -1 when the command was not run: its output
+// must not be written, it is too long, or no process could be made. In simulate mode nothing is
+// touched or started and the status is 0.
 std::int32_t run_command(const ShellCommand& command, const SignalHold* hold = nullptr);

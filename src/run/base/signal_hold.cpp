@@ -1,27 +1,34 @@
 #include "run/base/signal_hold.h"
 
 #include <cstdio>
-#include <cstring>
-#include <poll.h>
-#include <unistd.h>
+
+namespace {
+
+bool signal_waits() {
+    sigset_t waiting{};
+    sigpending(&waiting);
+    bool any = false;
+    for (int signal = 1; signal < NSIG; ++signal) {
+        any = any || sigismember(&waiting, signal) == 1;
+    }
+    return any;
+}
+
+} // namespace
 
 SignalHold::SignalHold() {
-    // A slow reader of the messages must not make a signal wait.
+    // While signals are blocked, a full pipe would delay Ctrl-C: flush now.
     std::fflush(nullptr);
     sigset_t held;
     sigfillset(&held);
-    // The end of the command is not a signal to wait for: nobody acts on it.
+    // SIGCHLD is ignored anyway and would look pending.
     sigdelset(&held, SIGCHLD);
     sigprocmask(SIG_BLOCK, &held, &before_);
 }
 
 SignalHold::~SignalHold() {
-    sigset_t waiting{};
-    const sigset_t none{};
-    sigpending(&waiting);
-    // Only for a signal that waits, and a reader who still reads: others would make the tool deaf.
-    pollfd reader{STDOUT_FILENO, POLLOUT, 0};
-    if (std::memcmp(&waiting, &none, sizeof none) != 0 && poll(&reader, 1, 1000) == 1) {
+    // Flush only if a signal is about to end us.
+    if (signal_waits()) {
         std::fflush(nullptr);
     }
     sigprocmask(SIG_SETMASK, &before_, nullptr);

@@ -6,9 +6,6 @@
 
 namespace {
 
-// A longer line could wrap, and only the last line of the screen can be erased.
-constexpr std::size_t length_max = 79;
-
 bool watched() {
     return terminal_lines_enabled && isatty(STDERR_FILENO) == 1 &&
            tcgetpgrp(STDERR_FILENO) == getpgrp();
@@ -23,9 +20,8 @@ void write_line(const std::string& text) {
 
 TerminalLine::TerminalLine(std::string_view text) {
     if (!text.empty() && watched()) {
-        const std::string shown(text.substr(0, length_max));
-        length_ = shown.size();
-        write_line(shown);
+        length_ = text.size();
+        write_line(std::string(text));
     }
 }
 

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 
 namespace {
@@ -17,8 +18,8 @@ void cut_trailing(char* text, std::string_view cut) {
     }
 }
 
-// Sets errno to ERANGE for a value above 64 bits.
-std::int32_t read_number(char* text, int base) {
+// The number that string2int gives; none for a value above 64 bits.
+std::optional<std::int32_t> read_number(char* text, int base) {
     cut_trailing(text, "\n ");
     if (*text == '\0') {
         return -1;
@@ -29,7 +30,11 @@ std::int32_t read_number(char* text, int base) {
         ++digits;
     }
     char* end = nullptr;
+    errno = 0;
     unsigned long value = std::strtoul(digits, &end, base);
+    if (errno == ERANGE) {
+        return std::nullopt;
+    }
     if (*end != '\0') {
         value = ~0UL;
     }
@@ -52,18 +57,17 @@ std::vector<std::string_view> split(std::string_view list, char separator) {
 }
 
 std::int32_t string2int(char* text, int base) {
-    errno = 0;
-    const std::int32_t number = read_number(text, base);
-    if (errno == ERANGE) {
-        std::perror("strtoul");
+    const std::optional<std::int32_t> number = read_number(text, base);
+    if (!number) {
+        std::fprintf(stderr, "strtoul: %s\n", std::strerror(ERANGE));
         end_run(1);
     }
-    return number;
+    return *number;
 }
 
 bool is_accepted_number(std::string_view text, int base) {
-    errno = 0;
-    return read_number(std::string(text).data(), base) >= 0 && errno != ERANGE;
+    const std::optional<std::int32_t> number = read_number(std::string(text).data(), base);
+    return number && *number >= 0;
 }
 
 char* cleanString(char* text) {

@@ -1,4 +1,4 @@
-// Text helpers shared by every parser of the tool.
+// Text helpers of every parser.
 #pragma once
 
 #include <algorithm>
@@ -17,11 +17,21 @@ inline void copy_text(std::span<char> field, std::string_view text) {
     field[length] = '\0';
 }
 
-// The field `Member` of a record with its capacity, for tables that say where a value goes.
-template <auto Member, class Record>
-std::span<char> text_field(Record& record) {
-    return record.*Member;
+// A text field of a kind of record, for tables that say where a value goes.
+template <class Record>
+struct TextField {
+    std::span<char> (*of)(Record& record);
+    std::size_t length_max; // of a text in it
+};
+
+template <auto Member, class Record, std::size_t Size>
+constexpr TextField<Record> make_text_field(char (Record::* /*member*/)[Size]) {
+    return {[](Record& record) { return std::span<char>(record.*Member); }, Size - 1};
 }
+
+// The text field that `Member`, a pointer to member, names.
+template <auto Member>
+constexpr auto text_field = make_text_field<Member>(Member);
 
 inline bool begins_with(const char* text, std::string_view prefix) {
     return std::strncmp(text, prefix.data(), prefix.size()) == 0;
@@ -42,7 +52,7 @@ std::vector<std::string_view> split(std::string_view list, char separator);
 // value above 64 bits ends the run with 1 and the library's message on standard error.
 std::int32_t string2int(char* text, int base);
 
-// Whether string2int takes the text as a number that its callers accept.
+// Whether string2int gives 0 or more.
 bool is_accepted_number(std::string_view text, int base);
 
 // Turns quotes, tabs and newlines of `text` into blanks and cuts trailing

@@ -1,6 +1,7 @@
 #include "run/base/text_file.h"
 
 #include <fcntl.h>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -10,14 +11,14 @@ namespace {
 // Opens a regular file, as open(2) does but without waiting, and reads its `status`. Returns null
 // when the file can't be opened or is something else (a directory, a FIFO).
 TextFile open_regular_file(const char* path, int flags, mode_t mode, struct stat& status) {
-    const int descriptor = open(path, flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode);
+    const int descriptor = open(path, flags | O_CLOEXEC | O_NONBLOCK, mode);
     if (descriptor < 0) {
         return nullptr;
     }
     TextFile file(fdopen(descriptor, (flags & O_WRONLY) != 0 ? "w" : "r"));
     if (file == nullptr) {
         close(descriptor);
-        return nullptr;
+        throw std::bad_alloc();
     }
     const bool regular = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
     return regular ? std::move(file) : nullptr;

@@ -1,4 +1,4 @@
-// Text files, those that other programs wrote among them.
+// Reading and creating text files.
 #pragma once
 
 #include <cstdio>
@@ -13,7 +13,7 @@ using TextFile = std::unique_ptr<std::FILE, FileCloser>;
 using LineBuffer = char[1024];
 
 // Opens a regular file for reading. Returns null when it can't be opened or when `path`
-// names something else (a directory, a FIFO).
+// names something else (a directory, a FIFO). Throws std::bad_alloc when memory is exhausted.
 TextFile open_text_file(const char* path);
 
 // Reads the next line, or the next piece of a long one, with its line end.
