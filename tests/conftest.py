@@ -45,21 +45,6 @@ class Result(NamedTuple):
     output: str  # standard output and standard error, in the order in which they came
 
 
-def run(program, words, directory, env={}):
-    """Runs a program with words as a shell would split them (or a list), with nothing of the caller's environment."""
-    words = shlex.split(words) if isinstance(words, str) else words
-    process = subprocess.Popen(
-        ["env", "--default-signal", program, *words], cwd=directory, env={**ENVIRONMENT, **env}, umask=0o022,
-        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, start_new_session=True)
-    try:
-        output, _ = process.communicate(timeout=60)
-    except subprocess.TimeoutExpired:
-        os.killpg(process.pid, signal.SIGKILL)
-        process.communicate()
-        raise
-    return Result(process.returncode, os.fsdecode(output))
-
-
 class Blade:
     """The example as "blade" in a directory of its own, which is the current one of the programs that run on it.
 
@@ -68,6 +53,7 @@ class Blade:
     def __init__(self, directory):
         self.directory = directory
         self.files = self.reports = directory / "blade"
+        self.processes = []
         shutil.copytree(PROJECT / "examples/blade", self.files)
 
     def path(self, name):
@@ -98,12 +84,29 @@ class Blade:
                 count += found
             assert count, f"Nothing in {pattern} fits {expression!r}."
 
+    def start(self, program, words, env={}):
+        """Starts a program with words as a shell would split them (or a list), and nothing of the caller's environment.
+
+        It leads a process group, so its process id names the group, too."""
+        words = shlex.split(words) if isinstance(words, str) else words
+        self.processes.append(subprocess.Popen(
+            ["env", "--default-signal", program, *words], cwd=self.directory, env=ENVIRONMENT | env, umask=0o022,
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, start_new_session=True))
+        return self.processes[-1]
+
     def run(self, program, words, env={}):
-        return run(program, words, self.directory, env)
+        process = self.start(program, words, env)
+        output, _ = process.communicate(timeout=60)
+        return Result(process.returncode, os.fsdecode(output))
 
     def simulated(self, words, env={}):
         """Runs cnatool on the reports in "blade"."""
         return self.run(CNATOOL, f"--simulate --conpath blade {words}", env)
+
+    def kill_what_hangs(self):
+        for process in self.processes:
+            if process.poll() is None:
+                os.killpg(process.pid, signal.SIGKILL)
 
 
 class Standin(Blade):
@@ -133,12 +136,14 @@ class Standin(Blade):
 
 @pytest.fixture
 def blade(tmp_path):
-    return Blade(tmp_path)
+    yield (blade := Blade(tmp_path))
+    blade.kill_what_hangs()
 
 
 @pytest.fixture
 def cli(tmp_path):
-    return Standin(tmp_path)
+    yield (cli := Standin(tmp_path))
+    cli.kill_what_hangs()
 
 
 def expect(result, status, text=""):
@@ -153,35 +158,33 @@ def expect(result, status, text=""):
         pytest.fail("\n".join(told))
 
 
-def fits(line, wanted):
-    return re.fullmatch(".*".join(map(re.escape, wanted.split("*"))), line) is not None
-
-
 def difference(text, output):
     """Tells the first wanted line that did not come, and what came at the nearest place; nothing if all came."""
-    came = ["(begin)", *output.split("\n")]
-    came[-1] += "(end)"
-    blocks = [["(begin)"]]
+    came = ["\n(begin)", *output.split("\n")]
+    came[-1] += "\n(end)"
+    blocks = [["\n(begin)"]]
     for line in text.split("\n") if text else []:
         blocks.append([]) if line == "..." else blocks[-1].append(line)
-    blocks[-1].append("(end)")
+    blocks[-1].append("\n(end)")
     at = 0
     for block in blocks:
-
-        def fitting(place):
-            return sum(1 for _ in itertools.takewhile(lambda pair: fits(*pair), zip(came[place:], block)))
-
-        def nearness(place):
-            count = fitting(place)
-            return count + difflib.SequenceMatcher(None, block[count], "".join(came[place + count:][:1])).ratio()
-
-        places = range(at, len(came))
-        found = next((place for place in places if fitting(place) == len(block)), None)
-        if found is None:
-            nearest = max(places, key=nearness)
-            count = fitting(nearest)
-            first, *others = came[nearest + count:][:3]
-            return [f"line {nearest + count} of {len(came) - 2}:", f"  wanted: {block[count]!r}", f"  came:   {first!r}",
-                    *(f"          {line!r}" for line in others)]
-        at = found + len(block)
+        counts = [fitting(block, came[place:]) for place in range(at, len(came))]
+        count = max(counts)
+        places = [at + i for i, other in enumerate(counts) if other == count]
+        if count < len(block):
+            at = count + max(places, key=lambda place: likeness(block[count], came[place + count]))
+            return [f"line {at} of {len(came) - 2}:", f"  wanted: {block[count]!r}", f"  came:   {came[at]!r}",
+                    *(f"          {line!r}" for line in came[at + 1:at + 3])]
+        at = places[0] + count
     return []
+
+
+def fitting(block, lines):
+    """How many lines of the block come first among the lines."""
+    def fits(line, wanted):
+        return re.fullmatch(".*".join(map(re.escape, wanted.split("*"))), line)
+    return len(list(itertools.takewhile(lambda pair: fits(*pair), zip(lines, block))))
+
+
+def likeness(wanted, line):
+    return difflib.SequenceMatcher(None, wanted, line).ratio()
