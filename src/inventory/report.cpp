@@ -50,12 +50,12 @@ std::int32_t make_report(const char* lead, std::initializer_list<std::string_vie
 }
 
 std::int32_t read_report(const std::string& path, std::int32_t status,
-                         const std::function<void(char* line)>& read_line_of_it) {
+                         const std::function<void(char* line)>& take_line) {
     const bool readable = !leads_outside(path) && !is_stale(path, status);
     const TextFile report = readable ? open_text_file(path.c_str()) : TextFile();
     LineBuffer line;
     while (report != nullptr && read_line(report, line)) {
-        read_line_of_it(line);
+        take_line(line);
     }
     if (report == nullptr || read_failed(report)) {
         unread_report = path;

@@ -29,12 +29,12 @@ std::string report_path(const hba_info& port, const char* name);
 std::int32_t make_report(const char* lead, std::initializer_list<std::string_view> words,
                          const std::string& path, const char* tail, std::string progress);
 
-// Opens the report of a command that returned `status` and hands each line to `read_line_of_it`.
+// Opens the report of a command that returned `status` and hands each line to `take_line`.
 // Returns RET_OK, or report_not_opened, with a message, for a report of an earlier run, for one
 // outside of the working directory, and for one that can't be opened or can't be read to its end;
 // the lines read until then have been handed over.
 std::int32_t read_report(const std::string& path, std::int32_t status,
-                         const std::function<void(char* line)>& read_line_of_it);
+                         const std::function<void(char* line)>& take_line);
 
 // The first of a report's labels, rows with a `text`, that `line` begins with, or null.
 template <class Label, std::size_t Count>
