@@ -149,7 +149,7 @@ def cli(tmp_path):
 def expect(result, status, text=""):
     """Compares a result with a status and with all that is printed, to its end; without a text that is nothing.
 
-    In a line of the text "*" stands for any text; a line "..." stands for any lines."""
+    In a line of the text a single "*" stands for any text; a line "..." stands for any lines."""
     __tracebackhide__ = True
     told = difference(text, result.output)
     if result.status != status:
@@ -182,7 +182,7 @@ def difference(text, output):
 def fitting(block, lines):
     """How many lines of the block come first among the lines."""
     def fits(line, wanted):
-        return re.fullmatch(".*".join(map(re.escape, wanted.split("*"))), line)
+        return re.fullmatch(".*".join(map(re.escape, re.split(r"(?<!\*)\*(?!\*)", wanted))), line)
     return len(list(itertools.takewhile(lambda pair: fits(*pair), zip(lines, block))))
 
 
