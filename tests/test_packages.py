@@ -72,7 +72,8 @@ def test_the_documents_name_what_is_there(built):
     root = built / "root"
     documents = root / DOCUMENTS
     for document in [documents / "README.md", *documents.glob("docs/*.md")]:
-        for name in re.findall(r"(?<=\]\()[^)]+|\b(?:contrib|docs|examples|packaging)/[\w./-]*\w", document.read_text()):
+        paths = r"(?<=\]\()[^)]+|\b(?:contrib|docs|examples|packaging)/[\w./-]*\w"
+        for name in re.findall(paths, document.read_text()):
             assert (documents / name).exists(), f"{document.name}: {name}"
     for page in root.glob("usr/share/man/*/*.gz"):
         for name in re.findall(r"/(usr/share/doc/[\w./]*\w)", gzip.open(page, "rt").read()):
