@@ -102,7 +102,7 @@ def test_flash_after_a_check_that_passes(blade, change, words, status):
 def test_no_flash_after_a_check_that_fails(blade, change, words, status):
     if change:
         change(blade)
-    expect(blade.simulated(f"-v 3 --flash {words}"), status, "...\nOverallSubSystemCheck returned: 0 ")
+    expect(blade.simulated(f"-v 6 --flash {words}"), status, "...\nOverallSubSystemCheck returned: 0 ")
 
 
 # Ports without a record, a flash port, a serial number.
