@@ -188,6 +188,11 @@ def test_first_port_does_not_end_the_walk(blade, file, change, told):
     expect(only(WALK, blade.simulated(f"-v 1 {FM}")), 0, told)
 
 
+def test_port_without_storage_is_told(blade):
+    blade.write("VM10250117_2_target_mapping.out")
+    expect(blade.simulated(f"-v 1 {FM}"), 0, f"...\n{FUNCTION_2}\n\n\n\t\t---------+*\n...")
+
+
 def test_ports_come_into_their_order_before_they_are_chained(blade):
     blade.edit(LIST, ("(?<=^PCI Function   : )[23]", lambda function: "3" if function[0] == "2" else "2"))
     expect(only(WALK, blade.simulated(f"-v 1 {FM}")), 0, f"{FUNCTION_2}\n{FUNCTION_3}")
