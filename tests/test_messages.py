@@ -49,7 +49,7 @@ List of input pci-ids: "19A2:0714:1C3E:11C1"
 \tSubDevice-Id 0x11c1
 env: Environment variable TMPDIR is not set.
 HBA conditions file: blade/FC_HBA_Conditions.txt
-             Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 |         FCoE | * |       Marlovan_SX1 |            x
+             Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 | * |       Marlovan_SX1 |            x
 
 {STARS}
 
@@ -211,7 +211,10 @@ Total Result after PCI function sort.
 3\tY iSCSI B 5 0""")
 
 
-@pytest.mark.parametrize("kind, told", [("iSCSI", "\nOnly iSCSI ports detected.\n"), ("NIC", "")])
+@pytest.mark.parametrize("kind, told", [
+    pytest.param("iSCSI", "\nOnly iSCSI ports detected.\n", id="iSCSI"),
+    pytest.param("NIC", "", id="neither"),
+])
 def test_kind_of_the_ports(blade, kind, told):
     blade.write(LIST, list_of(f"X {kind} A 2 0"))
     expect(blade.simulated("-v 6"), 22, f"...\n0\tX {kind} A 2 0\n{told}\n\nTotal Result*\n...")
