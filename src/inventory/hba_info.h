@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <span>
 
 // The values of one port's attributes report. Text fields keep the reported text, cut to their
 // capacity; a label that never appeared leaves its field empty.
@@ -136,6 +137,7 @@ inline bool has_type(const hba_info& port, const char* type) {
     return std::strcmp(port.port_type, type) == 0;
 }
 
+// Whether a port's type begins with "FCoE".
 inline bool is_fcoe(const hba_info& port) {
     return begins_with(port.port_type, "FCoE");
 }

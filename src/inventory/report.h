@@ -3,9 +3,9 @@
 #pragma once
 
 #include "inventory/hba_info.h"
-#include "run/base/return_codes.h"
 #include "run/base/text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <initializer_list>

@@ -24,7 +24,7 @@ constexpr int ignored_under_hold[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGXCPU}
 // In the child: becomes the shell.
 [[noreturn]] void become_shell(const char* text, const SignalHold* hold) {
     if (hold == nullptr) {
-        // Ignored signals survive exec: give the CLI the defaults.
+        // The tool ignores these two, and ignored signals survive exec.
         for (const int signal : {SIGPIPE, SIGXFSZ}) {
             std::signal(signal, SIG_DFL);
         }
@@ -73,6 +73,7 @@ std::int32_t run_command(const ShellCommand& command, const SignalHold* hold) {
     if (active_option_simulate != 0) {
         return 0;
     }
+    // The report of a command that is too long is emptied, too: nobody reads an earlier run's.
     if (!prepare_output(command.output_path, command.output) ||
         command.text.size() > command_length_max) {
         return -1;

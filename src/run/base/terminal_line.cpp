@@ -1,7 +1,6 @@
 #include "run/base/terminal_line.h"
 
 #include <cstdio>
-#include <string>
 #include <unistd.h>
 
 namespace {
@@ -11,22 +10,19 @@ bool watched() {
            tcgetpgrp(STDERR_FILENO) == getpgrp();
 }
 
-void write_line(const std::string& text) {
-    std::fprintf(stderr, "\r%s\r", text.c_str());
-    std::fflush(stderr);
-}
-
 } // namespace
 
 TerminalLine::TerminalLine(std::string_view text) {
     if (!text.empty() && watched()) {
-        length_ = text.size();
-        write_line(std::string(text));
+        length_ = static_cast<int>(text.size());
+        std::fprintf(stderr, "\r%.*s\r", length_, text.data());
+        std::fflush(stderr);
     }
 }
 
 TerminalLine::~TerminalLine() {
     if (length_ > 0) {
-        write_line(std::string(length_, ' '));
+        std::fprintf(stderr, "\r%*s\r", length_, "");
+        std::fflush(stderr);
     }
 }
