@@ -148,15 +148,6 @@ void run_with(const BladeFile& file, const std::string& content, std::size_t num
 
 } // namespace
 
-// The first bytes choose the file, the change and the options, the rest replaces the file.
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-    if (size > 2) {
-        run_with(blade[data[0] % std::size(blade)], std::string(data + 3, data + size),
-                 data[1] * std::size_t{256} + data[2]);
-    }
-    return 0;
-}
-
 #ifdef CNATOOL_SWEEP
 // The ways to spoil a line.
 static std::vector<std::string> spoilt(const std::string& line) {
@@ -197,14 +188,20 @@ int main() {
     dprintf(STDERR_FILENO, "%zu runs\n", runs);
 }
 #else
-// Begins the corpus, the last word of the call, with the blade's own files.
-extern "C" int LLVMFuzzerInitialize(const int* argc, char*** argv) {
-    const std::filesystem::path corpus = (*argv)[*argc - 1];
-    char number = 0;
-    for (const BladeFile& file : blade) {
-        std::ofstream(corpus / ("seed-" + file.name))
-            << number++ << std::string(2, '\0') << file.content;
+#include <fuzzer/FuzzedDataProvider.h>
+
+// The input chooses a file and what is run, and tells how the file is edited.
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+    FuzzedDataProvider input(data, size);
+    const auto number = input.ConsumeIntegral<std::uint16_t>();
+    const auto& file = blade[input.ConsumeIntegralInRange<std::size_t>(0, std::size(blade) - 1)];
+    std::string content = file.content;
+    while (input.remaining_bytes() > 0) {
+        const auto place = input.ConsumeIntegralInRange<std::size_t>(0, content.size());
+        const auto length = input.ConsumeIntegralInRange<std::size_t>(0, content.size() - place);
+        content.replace(place, length, input.ConsumeRandomLengthString());
     }
+    run_with(file, content, number);
     return 0;
 }
 #endif
