@@ -26,8 +26,9 @@ struct BladeFile {
 };
 
 std::string port(const std::string& serial, const std::string& number, const std::string& type) {
-    return "Port WWN : 1\nMfg : E\nSerial No. : " + serial + "\nPort Number : " + number +
-           "\nMode : I\nPCI Function : " + number + "\nPort Type : " + type + "\nModel : CNA-1\n\n";
+    return "Port WWN : 1\nNode WWN : 2\nMfg : E\nSerial No. : " + serial +
+           "\nPort Number : " + number + "\nMode : I\nPCI Function : " + number +
+           "\nPort Type : " + type + "\nModel : CNA-1\n\n";
 }
 
 const std::string attributes =
@@ -70,6 +71,7 @@ const Change changes[] = {
     {"FC_HBA_Conditions.txt", "19A2|0714", "0714|19A2"},
     {"FC_HBA_Conditions.txt", "1C3E|11C1", "1C3E|1x"},
     {"FC_HBA_Conditions.txt", "CNA", "CNB"},
+    {"FC_HBA_Conditions.txt", "A,CX", " |x|D|CX"},
     {"FC_HBA_Conditions.txt", "fw", "*."},
     {"FC_HBA_Conditions.txt", "*.b", "*.c"},
     {"local_hba_list.out", "S2", "n/a"},
