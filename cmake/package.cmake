@@ -12,9 +12,9 @@ set(generated ${PROJECT_BINARY_DIR}/packaging)
 
 # Fills in a template and compresses it, always to the same bytes.
 find_program(GZIP gzip REQUIRED)
-function(compress template file)
-  configure_file(${template} ${file} @ONLY)
-  execute_process(COMMAND ${GZIP} -9nf ${file} COMMAND_ERROR_IS_FATAL ANY)
+function(compress template name)
+  configure_file(${template} ${generated}/${name} @ONLY)
+  execute_process(COMMAND ${GZIP} -9nkf ${generated}/${name} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
 # The release stands beside the version in the changelog's newest section.
@@ -41,13 +41,14 @@ install(TARGETS cnatool lscna DESTINATION ${home})
 install(FILES completion/cnatool completion/lscna DESTINATION usr/share/bash-completion/completions)
 foreach(page cnatool.8 lscna.8 FC_HBA_Conditions.txt.5)
   string(REGEX MATCH ".$" section ${page})
-  compress(man/${page}.in ${generated}/${page})
+  compress(man/${page}.in ${page})
   install(FILES ${generated}/${page}.gz DESTINATION usr/share/man/man${section})
 endforeach()
 
 # What only a .deb holds; packaging/deb.cmake adds it.
 set(CPACK_DEBIAN_SHARE ${generated}/deb)
-compress(packaging/changelog.in ${CPACK_DEBIAN_SHARE}/doc/cnatool/changelog.Debian)
+compress(packaging/changelog.in changelog.Debian)
+configure_file(${generated}/changelog.Debian.gz ${CPACK_DEBIAN_SHARE}/doc/cnatool/changelog.Debian.gz COPYONLY)
 configure_file(packaging/lintian-overrides ${CPACK_DEBIAN_SHARE}/lintian/overrides/cnatool COPYONLY)
 set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/packaging/deb.cmake)
 
