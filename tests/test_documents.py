@@ -5,7 +5,7 @@ import re
 
 import pytest
 
-from conftest import CNATOOL, PROJECT, expect
+from conftest import CNATOOL, CONDITIONS, PROJECT, expect
 
 with gzip.open(CNATOOL.parent / "packaging/cnatool.8.gz", "rt") as page:
     MAN_PAGE = page.read().replace("\\", "")
@@ -80,4 +80,5 @@ def test_completion_leaves_out_what_a_word_excludes(blade, words, excluded):
     pytest.param("--conpath blade -pci-id 19A2:0714:1C3E:11C1,19A2:0714:", ["1C3E:11C2"], id="nothing-twice"),
 ])
 def test_completion_of_a_value(blade, words, offered):
+    blade.edit(CONDITIONS, (r"\A", "# A comment|x|19A2|0714|1C3E|11C9|\n"))
     assert completed(blade, words) == offered
