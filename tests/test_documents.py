@@ -1,12 +1,14 @@
 """The man page, the README, the completion and the program agree; what the completion offers."""
 
+import gzip
 import re
 
 import pytest
 
-from conftest import CNATOOL, PROJECT, expect
+from conftest import CNATOOL, CONDITIONS, PROJECT, expect
 
-MAN_PAGE = (CNATOOL.parent / "packaging/cnatool.8").read_text().replace("\\", "")
+with gzip.open(CNATOOL.parent / "packaging/cnatool.8.gz", "rt") as page:
+    MAN_PAGE = page.read().replace("\\", "")
 # The lines that begin with an option in bold and head what is said of it.
 HEADS = re.findall(r"^\.TP\n\.B[IR]? (-.*)", MAN_PAGE, re.MULTILINE)
 OPTIONS = sorted(word for head in HEADS for word in head.split() if word.startswith("-"))
@@ -29,7 +31,7 @@ def test_completion_offers_the_options_of_the_man_page(blade):
 
 @pytest.mark.parametrize("option", OPTIONS)
 def test_program_knows_the_option(blade, option):
-    assert f"Invalid argument '{option}'" not in blade.run(CNATOOL, f"{option} 1").output
+    assert f"Invalid argument '{option}'" not in blade.simulated(f"{option} 1").output
 
 
 def statuses(blade):
@@ -78,4 +80,5 @@ def test_completion_leaves_out_what_a_word_excludes(blade, words, excluded):
     pytest.param("--conpath blade -pci-id 19A2:0714:1C3E:11C1,19A2:0714:", ["1C3E:11C2"], id="nothing-twice"),
 ])
 def test_completion_of_a_value(blade, words, offered):
+    blade.edit(CONDITIONS, (r"\A", "# A comment|x|19A2|0714|1C3E|11C9|\n"))
     assert completed(blade, words) == offered
