@@ -113,7 +113,7 @@ ConditionsNotes examine_conditions(const char* path) {
     ConditionsNotes notes;
     const TextFile file = open_text_file(path);
     if (file == nullptr) {
-        return {{format("%s: can't be opened: write it, see FC_HBA_Conditions.txt(5)", path)},
+        return {{{format("%s: can't be opened: write it, see FC_HBA_Conditions.txt(5)", path)}},
                 false};
     }
     const std::string text = read_whole(file);
@@ -136,7 +136,7 @@ ConditionsNotes examine_conditions(const char* path) {
             mistakes.insert(mistakes.end(), found.begin(), found.end());
         }
         for (const std::string& mistake : mistakes) {
-            notes.texts.push_back(format("%s:%d: %s", path, number, mistake.c_str()));
+            notes.notes.push_back({format("%s:%d: %s", path, number, mistake.c_str())});
         }
     }
     return notes;

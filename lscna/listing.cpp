@@ -1,5 +1,6 @@
 #include "lscna/listing.h"
 
+#include "lscna/format.h"
 #include "lscna/json_text.h"
 #include "run/base/settings.h"
 
@@ -72,6 +73,10 @@ std::string json_record(const SurveyedPort& surveyed) {
     return json_number(surveyed.record);
 }
 
+std::string json_line(const SurveyedPort& surveyed) {
+    return json_number(surveyed.record == 0 ? 0 : record_at(surveyed.record).line);
+}
+
 std::string verdict_of(const SurveyedPort& surveyed) {
     constexpr std::array names = {"",           "allowed",    "not allowed",
                                   "no storage", "not judged", "not known"};
@@ -88,18 +93,22 @@ constexpr Column columns[] = {
     {"PORT", right, "port", field<&hba_info::port_number>, nullptr, "port number on the adapter"},
     {"TYPE", left, "type", field<&hba_info::port_type>, nullptr, "port type"},
     {"MODEL", left, "model", field<&hba_info::model>, nullptr, "model of the adapter"},
+    {"", left, "wwn", field<&hba_info::port_wwn>, nullptr, ""},
+    {"", left, "mac", field<&hba_info::permanent_mac>, nullptr, ""},
+    {"", left, "bus", field<&hba_info::pci_bus_number>, nullptr, ""},
     {"PCI-ID", left, "pci-id", pci_id_of, nullptr, "the four ids, as -pci-id takes them"},
     {"FIRMWARE", left, "firmware", firmware_of, nullptr, "version of the firmware"},
     {"STORAGE", left, "storage", storage_of, json_storage, "vendor and product that it sees"},
     {"RECORD", right, "record", record_of, json_record, "record of the conditions file for it"},
+    {"", right, "line", nullptr, json_line, ""},
     {"VERDICT", left, "verdict", verdict_of, nullptr, "what a check says of an FCoE port"},
     {"", left, "reason", reason_of, nullptr, ""},
 };
 
-// A text for a terminal, which control characters could change.
+// A text for a terminal, which other bytes could change.
 std::string shown(std::string text) {
-    std::replace_if(
-        text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
+    std::ranges::replace_if(
+        text, [](char c) { return c < ' ' || c > '~'; }, '?');
     return text.empty() ? "-" : text;
 }
 
@@ -190,8 +199,10 @@ std::string json_flash(const SurveyedFlash& flash) {
            ", \"bios\": " + json_image(flash.bios) + " }";
 }
 
-std::string json_note(const std::string& note) {
-    return json_text(note);
+std::string json_note(const Note& note) {
+    return "{ \"adapter\": " + json_text(note.adapter) +
+           ", \"functions\": " + json_list(note.functions) + ", \"text\": " + json_text(note.text) +
+           " }";
 }
 
 } // namespace
@@ -206,23 +217,31 @@ std::string describe_columns() {
     return text;
 }
 
-void print_screen(const Survey& survey, int fibre_channel_ports) {
+void print_screen(const Survey& survey) {
     print_table(survey.ports);
-    if (fibre_channel_ports > 0) {
-        std::printf("%d Fibre Channel port%s left alone.\n", fibre_channel_ports,
-                    fibre_channel_ports == 1 ? " is" : "s are");
+    if (survey.fibre_channel_ports > 0) {
+        std::printf("%d Fibre Channel port%s left alone.\n", survey.fibre_channel_ports,
+                    survey.fibre_channel_ports == 1 ? " is" : "s are");
     }
     print_flashes(survey.flashes);
     const char* title = "\nTo look at:\n";
-    for (const std::string& note : survey.notes) {
-        std::printf("%s  %s\n", title, shown(note).c_str());
+    for (const Note& note : survey.notes) {
+        const std::string line =
+            note.adapter.empty()
+                ? note.text
+                : note.adapter + (note.functions.size() > 1 ? ", functions " : ", function ") +
+                      join(note.functions) + ": " + note.text;
+        std::printf("%s  %s\n", title, shown(line).c_str());
         title = "";
     }
 }
 
-void print_json(const Survey& survey) {
-    std::printf("{\n");
+void print_json(const Answer& answer) {
+    const Survey& survey = answer.survey;
+    std::printf("{\n  \"format\": 1, \"version\": \"%s\", \"status\": %d, \"error\": %s,\n",
+                LSCNA_VERSION, answer.status, json_text(answer.error).c_str());
     print_json_list("ports", survey.ports, json_port, ",");
+    std::printf("  \"fibre-channel-ports\": %d,\n", survey.fibre_channel_ports);
     print_json_list("flashes", survey.flashes, json_flash, ",");
     print_json_list("notes", survey.notes, json_note, "");
     std::printf("}\n");

@@ -5,6 +5,8 @@
 #include "lscna/format.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <sys/wait.h>
 #include <utility>
 
 namespace {
@@ -23,6 +25,15 @@ constexpr Swap swaps[] = {
     {false, true, "subvendor and subdevice id swapped"},
     {true, true, "both pairs of ids swapped"},
 };
+
+// What a command ended with, a raw wait status, in words.
+std::string ending(std::int32_t status) {
+    if (status == -1) {
+        return "nothing: it could not be run";
+    }
+    return WIFSIGNALED(status) ? format("signal %d", WTERMSIG(status))
+                               : format("exit status %d", WEXITSTATUS(status));
+}
 
 } // namespace
 
@@ -107,6 +118,13 @@ std::string unknown_reason(const hba_info& port, const CommonCauses& causes) {
     if (serial_missing(port)) {
         return "no serial number, so its reports are not read";
     }
+    for (const auto& [command, status] : {std::pair{"hbaattributes", port.attributes_status},
+                                          {"targetmapping", port.mapping_status}}) {
+        if (status != 0) {
+            return format("the CLI's command %s ended with %s, so its report may be cut", command,
+                          ending(status).c_str());
+        }
+    }
     if (!without_ids && (!is_fcoe(port) || port.mapping_reported != 0)) {
         return "";
     }
@@ -116,7 +134,8 @@ std::string unknown_reason(const hba_info& port, const CommonCauses& causes) {
     if (port.attributes != nullptr && without_ids) {
         return "its attributes report lacks a PCI id, or has one that is not hexadecimal";
     }
-    return format("its %s report has no title: see that its command works and the disk has room",
+    return format("its %s report has not its title: see that its command works and the disk has "
+                  "room",
                   without_ids ? "attributes" : "target-mapping");
 }
 

@@ -14,12 +14,6 @@ namespace {
 
 using Record = fc_config_file_entry;
 
-// What is to be looked at, and the port that it is about.
-struct PortNote {
-    const hba_info* port;
-    std::string text;
-};
-
 // The storage that a record allows, as "DGC Marlovan_CX and any NRB".
 std::string allowed_storage(const Record& record) {
     std::vector<std::string> allowed;
@@ -62,7 +56,7 @@ void judge(SurveyedPort& surveyed, const CommonCauses& causes) {
 }
 
 // Storage that a check passes over: it judges the last LUN of a report alone.
-void look_at_luns(const SurveyedPort& surveyed, std::vector<PortNote>& notes) {
+void look_at_luns(const SurveyedPort& surveyed, Notes& notes) {
     const target_mapping_entry* const judged = surveyed.port->target_mapping;
     if (surveyed.port->storage_differs == 0 || surveyed.record == 0) {
         return;
@@ -72,10 +66,10 @@ void look_at_luns(const SurveyedPort& surveyed, std::vector<PortNote>& notes) {
                           std::strcmp(lun.product_id, judged->product_id) == 0;
         const bool storage = lun.vendor_id[0] != '\0' || lun.product_id[0] != '\0';
         if (storage && !same && !allows(record_at(surveyed.record), lun)) {
-            notes.push_back(
-                {surveyed.port, format("its report also names %s %s, which record %d "
-                                       "does not allow; a check judges the last LUN",
-                                       lun.vendor_id, lun.product_id, surveyed.record)});
+            add_note(notes, *surveyed.port,
+                     format("its report also names %s %s, which record %d "
+                            "does not allow; a check judges the last LUN",
+                            lun.vendor_id, lun.product_id, surveyed.record));
         }
     }
 }
@@ -106,24 +100,23 @@ SurveyedFlash survey_flash(const hba_info& port, FoundImages& found) {
     return flash;
 }
 
-void look_at_image(const SurveyedFlash& flash, const SurveyedImage& image,
-                   std::vector<PortNote>& notes) {
+void look_at_image(const SurveyedFlash& flash, const SurveyedImage& image, Notes& notes) {
     const char* const pattern = image.pattern.c_str();
     if (image.pattern.empty()) {
-        notes.push_back({flash.port, format("record %d names no %s image: a flash ends with 20",
-                                            flash.record, image.kind)});
+        add_note(
+            notes, *flash.port,
+            format("record %d names no %s image: a flash ends with 20", flash.record, image.kind));
     } else if (image.files.empty()) {
-        notes.push_back(
-            {flash.port,
-             format("no file in %s is the %s image '%s' of record %d: a flash ends "
-                    "with 20",
-                    image_directory(*flash.port).c_str(), image.kind, pattern, flash.record)});
+        add_note(notes, *flash.port,
+                 format("no file in %s is the %s image '%s' of record %d: a flash ends "
+                        "with 20",
+                        image_directory(*flash.port).c_str(), image.kind, pattern, flash.record));
     } else if (image.files.size() > 1) {
-        notes.push_back(
-            {flash.port, format("%s match the %s image '%s' of record %d, and a flash "
-                                "takes either: give a longer beginning of the name, or move the "
-                                "others away",
-                                join(image.files).c_str(), image.kind, pattern, flash.record)});
+        add_note(notes, *flash.port,
+                 format("%s match the %s image '%s' of record %d, and a flash "
+                        "takes either: give a longer beginning of the name, or move the "
+                        "others away",
+                        join(image.files).c_str(), image.kind, pattern, flash.record));
     }
 }
 
@@ -135,15 +128,15 @@ bool is_written_twice(const SurveyedFlash& flash) {
 
 // `surveyed` is the flash port. An FCoE port has the note of its verdict already.
 void look_at_flash(const SurveyedPort& surveyed, const SurveyedFlash& flash, bool record_expected,
-                   std::vector<PortNote>& notes) {
+                   Notes& notes) {
     const hba_info& port = *flash.port;
     if (!is_fcoe(port) && !pci_id(port).empty() && surveyed.record == 0) {
         if (flash.record != 0) {
-            notes.push_back({&port, missing_record(port)});
+            add_note(notes, port, missing_record(port));
         } else if (record_expected) {
-            notes.push_back({&port, missing_record(port) + "; a flash writes nothing"});
+            add_note(notes, port, missing_record(port) + "; a flash writes nothing");
         } else {
-            notes.push_back({&port, swapped_record(port)});
+            add_note(notes, port, swapped_record(port));
         }
     }
     for (const auto& image : {flash.firmware, flash.bios}) {
@@ -152,9 +145,10 @@ void look_at_flash(const SurveyedPort& surveyed, const SurveyedFlash& flash, boo
         }
     }
     if (is_written_twice(flash)) {
-        notes.push_back({&port, format("%s would be written as firmware and as BIOS: give record "
-                                       "%d longer beginnings of the names",
-                                       flash.bios->files.front().c_str(), flash.record)});
+        add_note(notes, port,
+                 format("%s would be written as firmware and as BIOS: give record "
+                        "%d longer beginnings of the names",
+                        flash.bios->files.front().c_str(), flash.record));
     }
 }
 
@@ -177,42 +171,21 @@ bool is_listed(const hba_info& port, const option_input* selection) {
     return selection == nullptr || could_be_meant;
 }
 
-// One line for the ports of an adapter that have the same note, however often each has it.
-std::vector<std::string> fold(std::vector<PortNote> notes) {
-    std::vector<std::string> lines;
-    while (!notes.empty()) {
-        const PortNote first = notes.front();
-        std::vector<std::string> functions;
-        std::erase_if(notes, [&](const PortNote& note) {
-            const bool same = note.text == first.text &&
-                              std::strcmp(note.port->serial_no, first.port->serial_no) == 0;
-            if (same && (functions.empty() || functions.back() != note.port->pci_function)) {
-                functions.emplace_back(note.port->pci_function);
-            }
-            return same;
-        });
-        lines.push_back(format("%s, function%s %s: %s", first.port->serial_no,
-                               functions.size() > 1 ? "s" : "", join(functions).c_str(),
-                               first.text.c_str()));
-    }
-    return lines;
-}
-
 bool same_ids(const Record& a, const Record& b) {
     return a.vendor_id == b.vendor_id && a.device_id == b.device_id &&
            a.subvendor_id == b.subvendor_id && a.subdevice_id == b.subdevice_id;
 }
 
-void look_at_records(std::vector<std::string>& notes) {
+void look_at_records(Notes& notes) {
     int number = 0;
     for (const Record* record : all_conditions()) {
         ++number;
         const int first =
             find_record([&](const Record& other) { return same_ids(other, *record); });
         if (first != number && record->vendor_id != 0) {
-            notes.push_back(format("records %d and %d have the same four ids: a flash takes the "
-                                   "first, a check the first that is for the port's model",
-                                   first, number));
+            notes.push_back({format("records %d and %d have the same four ids: a flash takes the "
+                                    "first, a check the first that is for the port's model",
+                                    first, number)});
         }
     }
 }
@@ -226,14 +199,14 @@ std::string group_of(const option_input& entry) {
     return group.empty() ? "an empty group" : group;
 }
 
-void look_at_selection(const option_input* selection, std::vector<std::string>& notes) {
+void look_at_selection(const option_input* selection, Notes& notes) {
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
         bool found = false;
         for (const hba_info* port : all_ports()) {
             found = found || (!serial_missing(*port) && selects(*entry, *port));
         }
         if (!found) {
-            notes.push_back(format("--pci-id: no port has %s", group_of(*entry).c_str()));
+            notes.push_back({format("--pci-id: no port has %s", group_of(*entry).c_str())});
         }
     }
 }
@@ -242,12 +215,12 @@ void look_at_selection(const option_input* selection, std::vector<std::string>& 
 
 Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
     Survey survey;
-    std::vector<PortNote> notes;
+    Notes& notes = survey.notes;
     FoundImages images;
     for (const hba_info* listed : all_ports()) {
         const hba_info& port = *listed;
         if (!serial_missing(port) && port.flash_port == nullptr) {
-            notes.push_back({&port, no_flash_port});
+            add_note(notes, port, no_flash_port);
         }
         if (!is_listed(port, selection)) {
             continue;
@@ -258,13 +231,19 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
         });
         if (is_fcoe(port)) {
             judge(surveyed, causes);
-            notes.push_back({&port, surveyed.reason});
+            if (surveyed.reason != causes.inventory_ended &&
+                surveyed.reason != causes.conditions_unusable) {
+                add_note(notes, port, surveyed.reason);
+            }
         } else if (!serial_missing(port)) {
-            notes.push_back({&port, unknown_reason(port, causes)});
+            if (const std::string reason = unknown_reason(port, causes);
+                reason != causes.inventory_ended) {
+                add_note(notes, port, reason);
+            }
         }
         look_at_luns(surveyed, notes);
         if (!pci_id(port).empty() && port.attributes->subvendor_id_val == 0) {
-            notes.push_back({&port, "subvendor id 0: -pci-id takes its four ids for two"});
+            add_note(notes, port, "subvendor id 0: -pci-id takes its four ids for two");
         }
         if (is_flash_port(port)) {
             survey.flashes.push_back(survey_flash(port, images));
@@ -272,12 +251,7 @@ Survey survey_ports(const option_input* selection, const CommonCauses& causes) {
                           selection != nullptr && causes.conditions_unusable.empty(), notes);
         }
     }
-    std::erase_if(notes, [&](const PortNote& note) {
-        return note.text.empty() || note.text == causes.inventory_ended ||
-               note.text == causes.conditions_unusable;
-    });
-    survey.notes = fold(std::move(notes));
-    look_at_records(survey.notes);
-    look_at_selection(selection, survey.notes);
+    look_at_records(notes);
+    look_at_selection(selection, notes);
     return survey;
 }

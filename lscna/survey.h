@@ -4,6 +4,7 @@
 
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
+#include "lscna/notes.h"
 #include "lscna/reasons.h"
 #include "run/base/selection.h"
 
@@ -40,7 +41,8 @@ struct SurveyedFlash {
 struct Survey {
     std::vector<SurveyedPort> ports; // in the order in which a check walks them
     std::vector<SurveyedFlash> flashes;
-    std::vector<std::string> notes; // what is to be looked at, a line each
+    Notes notes;
+    int fibre_channel_ports = 0; // are left alone
 };
 
 // Surveys the ports that the inventory has found, ordered and paired. `selection` (null: every

@@ -51,12 +51,18 @@ void store_value(const Label& label, char* line, hba_info& port) {
     message(6, "\t\t\t%s\n", field.data());
 }
 
+// Whether the title is that of the port's report, not of another port's.
+bool names(const char* line, const hba_info& port) {
+    std::string name = line + title.size();
+    return std::strcmp(cleanString(name.data()), port.port_wwn) == 0;
+}
+
 void read_mapping_line(char* line, bool below_title, hba_info& port) {
     if (below_title && port.target_mapping == nullptr && std::strchr(line, ':') != nullptr) {
         port.target_mapping = &made(get_new_target_mapping_entry());
     }
     if (begins_with(line, title)) {
-        port.mapping_reported = 1;
+        port.mapping_reported = names(line, port) ? 1 : 0;
         message(6, "\n\t\t\t%s %s\n", title.data(), port.port_wwn);
         return;
     }
@@ -75,6 +81,7 @@ std::int32_t read_target_mapping(hba_info& port, const std::string& progress) {
     const std::string path = report_path(port, report_name);
     const std::int32_t status = make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, path,
                                             "\n", progress + ": target mapping");
+    port.mapping_status = status;
     if (status == 0) {
         message(6, "\n\t\t\tSuccess, \"hbacmd targetmapping %s\" command returned code %d.\n",
                 port.port_wwn, status);

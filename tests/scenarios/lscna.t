@@ -19,7 +19,7 @@ storage, which their records 1 and 2 allow.
   $ flash_record() { sed -i "/0700.*11C1/s/$1/$2/" $conditions; }
   $ ports() { sed -i "$1" blade/local_hba_list.out; }
   $ report() { printf "$2" >"blade/VM10250117_$1.out"; }
-  $ mapped() { report 2_target_mapping "Target Mapping for x\n\n\n\n$1"; }
+  $ mapped() { report 2_target_mapping "Target Mapping for 10:00:00:00:c9:a1:00:11\n\n\n\n$1"; }
   $ rows looked lay_good <<'END'
   > -s => 0
   > mapped 'Vendor ID: NRB\nProduct ID: X' :: -s => 1 *17, function 2: record 1 allows DGC Marlovan_CX,CX4- and NRB *
@@ -35,8 +35,8 @@ storage, which their records 1 and 2 allow.
   > | *: add 'Emulex Corporation | CNA-10102-FX | 19A2 | 0714 | 1C3E | 11C2 | ...'\n*11C1 | ...'
   > record 10102-F 9 :: -s => 1 *17, *record 1 has its ids, but is for Emulex CNA-9, not *; a flash takes *
   > # Ports that are not known.
-  > report 2_target_mapping '' :: -s => 1 *17, function 2: its target-mapping report has no title*
-  > report 3_hba_attributes ERROR :: -s => 1 *17, function 3: its attributes report has no title*
+  > report 2_target_mapping '' :: -s => 1 *17, function 2: its target-mapping report has not its title*
+  > report 3_hba_attributes ERROR :: -s => 1 *17, function 3: its attributes report has not its title*
   > ports '/^Serial/s/VM1.*/n\/a/' :: -s => 1 n/a, functions 2 and 3: no serial number*
   > rm blade/VM10250117_0_hba* :: -s => 1 the inventory ended at blade//VM10250117_0_hba_attributes.out, *
   > # The flash.
@@ -75,7 +75,7 @@ fourth FCoE port takes the place of the third in a check.
   $ lay_good && mapped 'no target\n' && report 3_target_mapping ''
   $ ports '/^Serial/s/VM2.*/VM10250117/; /c9:b2:00:1[12]/,/^$/{/^PCI F/s/: ./&X/; s/2X/6/; s/3X/7/}'
   $ for port in 6 7; do cp blade/VM10250117_2_hba_attributes.out blade/VM10250117_${port}_hba_attributes.out; done
-  $ for port in 6 7; do cp blade/VM20713302_2_target_mapping.out blade/VM10250117_${port}_target_mapping.out; done
+  $ for port in 6 7; do cp blade/VM20713302_$((port - 4))_target_mapping.out blade/VM10250117_${port}_target_mapping.out; done
   $ looked -s | grep -c 'function 6: a check does not come to it'
   1
   $ sed -n 's/^VM10250117 *\([0-9]\).*FCoE.*   *\([a-z].*\)/\1 \2/p' screen
@@ -100,19 +100,19 @@ JSON holds the same, whatever bytes the reports hold, and null for what is not k
   4 {'pattern': '*.ufi', 'files': ['blade/CNA-10102-FX/fx-4.6.142.10.ufi']} {'pattern': '*.grp', 'files': ['blade/CNA-10102-FX/fx-bios-4.6.141.grp']}
   3 {'pattern': 'fm10102-', 'files': ['blade/fm10102-4.6.142.10.ufi']} None
   5 {'pattern': 'is10102-', 'files': []} None
-  adapter fn port type model pci-id firmware storage record verdict reason adapter fn record firmware bios 3
+  adapter fn port type model wwn mac bus pci-id firmware storage record line verdict reason adapter fn record firmware bios 3
 
 The command line: what can't be listed ends with 2 and a message.
 
   $ rows lscna lay_blade <<'END'
   > -V => 0 lscna *.*.*.*
   > --help => 0 Usage: lscna *\n...\n  VERDICT   *
-  > -x => 2 lscna: invalid option -- 'x'
+  > -x => 2 lscna: invalid option -- 'x'\nlscna: a bad call*
   > -s -C '' => 2 lscna: --conpath: the name of the directory is empty
   > -s -C "$PWD/blade" -p 19A2:0712 => 0 ...
   > -s -C blade -p 19A2:07G0 => 2 lscna: --pci-id: not a list*
   > rm blade/local* :: -s -C blade => 2 lscna: the list of ports, local_hba_list.out, can't be read
-  > echo none >blade/local_hba_list.out :: -s -C blade => 2 lscna: the list of ports names no port
+  > echo none >blade/local_hba_list.out :: -s -C blade => 3 lscna: the list of ports names no port
   > report 0_hba_attributes 'HBA Attributes for\nDevice ID: 10000000000000000' :: -s -C blade => 2 strtoul*\nlscna*
   > END
 
@@ -121,9 +121,9 @@ By the vendor's CLI, in turn with other runs; a terminal shows what is waited fo
   $ standin=${CNATOOL_STANDIN%/*}/lscna_standin && real_lscna() { "$standin" -C blade "$@"; }
   $ rows real_lscna lay_standin <<'END'
   > -p 19A2:0714:1C3E:11C1 => 0 ...
-  > on targetmapping3 'exit 1' :: -p 19A2:0714:1C3E:11C1 => 1 ...\n*its target-mapping report has no title*
-  > on listhbas1 'exit 1' :: -J => 2 lscna: the CLI's command listhbas failed
-  > rm hbacmd :: -J => 2 lscna: the vendor's CLI is not installed
+  > on targetmapping3 'exit 1' :: -p 19A2:0714:1C3E:11C1 => 1 ...\n*the CLI's command targetmapping ended with exit status 1, *
+  > on listhbas1 'exit 1' :: -J => 2 ...\n*"error": "the CLI's command listhbas failed",\n...
+  > rm hbacmd :: -J => 2 ...\n*"error": "the vendor's CLI is not installed",\n...
   > END
   $ lay_standin && (flock 9 && sleep 0.5) 9<hbacmd &
   $ sleep 0.2; script -qec "'$standin' -C blade" /dev/null </dev/null | tr '\r' '\n' | grep -e ^waiting -e ^adapter -e '^port 5'
