@@ -56,6 +56,11 @@ const Record* record_with_ids(const hba_info& port) {
     return find_record([&](const Record& record) { return describes(record, port, Ids::four); });
 }
 
+// The same for a flash port, whose ids may not be known.
+const Record* flashed_record(const hba_info& port) {
+    return pci_id(port).empty() ? nullptr : record_with_ids(port);
+}
+
 // The first of them that is for its manufacturer and model, too, by which a check judges.
 const Record* record_for(const hba_info& port) {
     return find_record([&](const Record& record) {
@@ -270,7 +275,7 @@ void note_luns(const hba_info& port, const Record& record, Notes& notes) {
 }
 
 SurveyedFlash survey_flash(const hba_info& port) {
-    SurveyedFlash flash{&port, pci_id(port).empty() ? nullptr : record_with_ids(port)};
+    SurveyedFlash flash{&port, flashed_record(port)};
     if (flash.record != nullptr) {
         const std::string directory = image_directory(port);
         const auto survey = [&](const char* kind, const char* pattern) {
@@ -382,6 +387,29 @@ void survey_port(const hba_info& port, bool is_selected, const CommonCauses& cau
     }
 }
 
+bool same_images(const Record& a, const Record* b) {
+    return b != nullptr && same(a.firmware_image, b->firmware_image) &&
+           same(a.bios_image, b->bios_image);
+}
+
+// The ids of a flash port can be those of another adapter's port: a flash that selects them writes
+// through that adapter's flash port, too, whatever record this one has.
+void note_side_effects(Survey& survey) {
+    for (const SurveyedFlash& flash : survey.flashes) {
+        for (const SurveyedPort& surveyed : survey.ports) {
+            const hba_info& port = *surveyed.port;
+            if (flash.record != nullptr && port.flash_port != nullptr &&
+                pci_id(port) == pci_id(*flash.port) &&
+                !same_images(*flash.record, flashed_record(*port.flash_port))) {
+                add_note(survey.notes, port,
+                         format("it has the ids of a flash port, %s: a flash that selects them "
+                                "writes the images of %s to this adapter, too",
+                                pci_id(port).c_str(), named(*flash.record).c_str()));
+            }
+        }
+    }
+}
+
 // Adapters that cnatool takes for one, though they may be two.
 void note_adapters(Notes& notes) {
     const std::span<hba_info*> ports = all_ports();
@@ -471,6 +499,7 @@ void survey_ports(const option_input* selection, const CommonCauses& causes, Sur
             survey_port(*port, selection != nullptr, causes, survey);
         }
     }
+    note_side_effects(survey);
     note_adapters(survey.notes);
     note_records(survey.notes);
     note_selection(selection, survey.notes);
