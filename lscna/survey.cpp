@@ -52,18 +52,15 @@ const Record* find_record(Fits fits) {
 }
 
 // The first record with the port's four ids, whose images a flash takes.
-const Record* record_with_ids(const hba_info& port) {
-    return find_record([&](const Record& record) { return describes(record, port, Ids::four); });
-}
-
-// The same for a flash port, whose ids may not be known.
-const Record* flashed_record(const hba_info& port) {
-    return pci_id(port).empty() ? nullptr : record_with_ids(port);
+const Record* record_of_flash(const hba_info& port) {
+    return pci_id(port).empty() ? nullptr : find_record([&](const Record& record) {
+        return describes(record, port, Ids::four);
+    });
 }
 
 // The first of them that is for its manufacturer and model, too, by which a check judges.
-const Record* record_for(const hba_info& port) {
-    return find_record([&](const Record& record) {
+const Record* record_of_check(const hba_info& port) {
+    return pci_id(port).empty() ? nullptr : find_record([&](const Record& record) {
         return describes(record, port, Ids::four) && is_for_model(record, port);
     });
 }
@@ -138,7 +135,7 @@ std::string whole_record(const std::string& ids) {
 // added.
 std::string missing_record(const hba_info& port, const char* consequence) {
     const std::string ids = pci_id(port);
-    if (const Record* const record = record_with_ids(port)) {
+    if (const Record* const record = record_of_flash(port)) {
         return format("%s has the ids %s, but is for %s %s, not %s %s: correct it, or add one; a "
                       "flash takes its images all the same",
                       named(*record).c_str(), ids.c_str(), record->vendor, record->model, port.mfg,
@@ -156,7 +153,7 @@ std::string missing_record(const hba_info& port, const char* consequence) {
     }
     return missing +
            (is_fcoe(port) ? "if its storage is the right one, add: "
-                          : "add, with the name of its image in the ninth column: ") +
+                          : "add, with its image in column 8: ") +
            whole_record(ids);
 }
 
@@ -275,7 +272,7 @@ void note_luns(const hba_info& port, const Record& record, Notes& notes) {
 }
 
 SurveyedFlash survey_flash(const hba_info& port) {
-    SurveyedFlash flash{&port, flashed_record(port)};
+    SurveyedFlash flash{&port, record_of_flash(port)};
     if (flash.record != nullptr) {
         const std::string directory = image_directory(port);
         const auto survey = [&](const char* kind, const char* pattern) {
@@ -366,8 +363,7 @@ bool is_listed(const hba_info& port, const option_input* selection) {
 
 void survey_port(const hba_info& port, bool is_selected, const CommonCauses& causes,
                  Survey& survey) {
-    SurveyedPort& surveyed = survey.ports.emplace_back(
-        SurveyedPort{&port, pci_id(port).empty() ? nullptr : record_for(port)});
+    SurveyedPort& surveyed = survey.ports.emplace_back(SurveyedPort{&port, record_of_check(port)});
     Notes& notes = survey.notes;
     if (is_fcoe(port)) {
         judge(surveyed, causes, notes);
@@ -400,7 +396,7 @@ void note_side_effects(Survey& survey) {
             const hba_info& port = *surveyed.port;
             if (flash.record != nullptr && port.flash_port != nullptr &&
                 pci_id(port) == pci_id(*flash.port) &&
-                !same_images(*flash.record, flashed_record(*port.flash_port))) {
+                !same_images(*flash.record, record_of_flash(*port.flash_port))) {
                 add_note(survey.notes, port,
                          format("it has the ids of a flash port, %s: a flash that selects them "
                                 "writes the images of %s to this adapter, too",
