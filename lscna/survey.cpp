@@ -2,6 +2,7 @@
 
 #include "check/consistency.h"
 #include "check/subsystem.h"
+#include "classify/adapter.h"
 #include "conditions/match.h"
 #include "flash/image_search.h"
 #include "inventory/target_mapping.h"
@@ -271,17 +272,23 @@ void note_luns(const hba_info& port, const Record& record, Notes& notes) {
     }
 }
 
-SurveyedFlash survey_flash(const hba_info& port) {
+SurveyedFlash survey_flash(const hba_info& port, const std::vector<SurveyedFlash>& others) {
     SurveyedFlash flash{&port, record_of_flash(port)};
-    if (flash.record != nullptr) {
-        const std::string directory = image_directory(port);
-        const auto survey = [&](const char* kind, const char* pattern) {
-            return SurveyedImage{kind, pattern, matching_images(directory, pattern)};
-        };
-        flash.firmware = survey("firmware", flash.record->firmware_image);
-        if (flash.record->bios_image[0] != '\0') {
-            flash.bios = survey("BIOS", flash.record->bios_image);
+    if (flash.record == nullptr) {
+        return flash;
+    }
+    // Adapters of one model share the directory of their images, which is read once.
+    for (const SurveyedFlash& other : others) {
+        if (other.record == flash.record && same(other.port->model, port.model)) {
+            return {&port, flash.record, other.firmware, other.bios};
         }
+    }
+    const std::string directory = image_directory(port);
+    const char* const firmware = flash.record->firmware_image;
+    const char* const bios = flash.record->bios_image;
+    flash.firmware = SurveyedImage{"firmware", firmware, matching_images(directory, firmware)};
+    if (*bios != '\0') {
+        flash.bios = SurveyedImage{"BIOS", bios, matching_images(directory, bios)};
     }
     return flash;
 }
@@ -352,13 +359,15 @@ bool is_flash_port(const hba_info& port) {
 
 // Whether the port is to be listed. One whose ids are not known is: it could be meant.
 bool is_listed(const hba_info& port, const option_input* selection) {
+    if (selection == nullptr) {
+        return true;
+    }
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
         if (selects(*entry, port)) {
             return true;
         }
     }
-    const bool could_be_meant = pci_id(port).empty() && (is_fcoe(port) || !serial_missing(port));
-    return selection == nullptr || could_be_meant;
+    return pci_id(port).empty() && (is_fcoe(port) || !serial_missing(port));
 }
 
 void survey_port(const hba_info& port, bool is_selected, const CommonCauses& causes,
@@ -377,7 +386,8 @@ void survey_port(const hba_info& port, bool is_selected, const CommonCauses& cau
         add_note(notes, port, "subvendor id 0: -pci-id takes its four ids for two");
     }
     if (is_flash_port(port)) {
-        const SurveyedFlash& flash = survey.flashes.emplace_back(survey_flash(port));
+        const SurveyedFlash& flash =
+            survey.flashes.emplace_back(survey_flash(port, survey.flashes));
         note_flash(flash, surveyed.record != nullptr,
                    is_selected && causes.conditions_refused.empty(), notes);
     }
@@ -391,17 +401,17 @@ bool same_images(const Record& a, const Record* b) {
 // The ids of a flash port can be those of another adapter's port: a flash that selects them writes
 // through that adapter's flash port, too, whatever record this one has.
 void note_side_effects(Survey& survey) {
-    for (const SurveyedFlash& flash : survey.flashes) {
-        for (const SurveyedPort& surveyed : survey.ports) {
-            const hba_info& port = *surveyed.port;
-            if (flash.record != nullptr && port.flash_port != nullptr &&
-                pci_id(port) == pci_id(*flash.port) &&
-                !same_images(*flash.record, record_of_flash(*port.flash_port))) {
-                add_note(survey.notes, port,
-                         format("it has the ids of a flash port, %s: a flash that selects them "
-                                "writes the images of %s to this adapter, too",
-                                pci_id(port).c_str(), named(*flash.record).c_str()));
-            }
+    for (const SurveyedPort& surveyed : survey.ports) {
+        const hba_info& port = *surveyed.port;
+        const Record* const record = record_of_flash(port);
+        const bool is_flashed = std::ranges::any_of(
+            survey.flashes, [&](const SurveyedFlash& flash) { return flash.record == record; });
+        if (record != nullptr && is_flashed && port.flash_port != nullptr &&
+            !same_images(*record, record_of_flash(*port.flash_port))) {
+            add_note(survey.notes, port,
+                     format("it has the ids of a flash port, %s: a flash that selects them writes "
+                            "the images of %s to this adapter, too",
+                            pci_id(port).c_str(), named(*record).c_str()));
         }
     }
 }
@@ -411,8 +421,8 @@ void note_adapters(Notes& notes) {
     const std::span<hba_info*> ports = all_ports();
     for (const hba_info* port : ports) {
         for (const hba_info* other : ports) {
-            if (port == other || serial_missing(*port) || serial_missing(*other) ||
-                !begins_with(other->serial_no, port->serial_no)) {
+            if (port == other || !matches(*port, *other) || serial_missing(*port) ||
+                serial_missing(*other)) {
                 continue;
             }
             if (!same(port->serial_no, other->serial_no)) {

@@ -93,7 +93,7 @@ CAUSES = [
      "no record has 19A2:0714:1C3E:11C1; if *, add: Emulex Corporation | CNA-10102-FM | 19A2 | 0714 | 1C3E | 11C1 | *"),
     ("two records", (CONDITIONS, r"\Z", "E | M | 19A2 | 0714 | 1C3E | 11C1 | x\n"),
      "record 1 (line 21) and record 6 (line 26) have the same four ids: *"),
-    ("no flash port", (LIST, "^(Serial.*VM1.*\nPort Number.*) .$", r"\1 3"), "*17, functions 0, 1, 2 and 3: *no flash*"),
+    ("no flash port", (LIST, "^(Serial.*VM1.*\nPort Number.*) .$", r"\1 3"), "*17, functions 0, 1, 2 and 3: *no f*"),
     ("a function twice", (LIST, r"(18\nPCI Function *: )1", r"\g<1>0"), "VM30550041, function 0: * is listed twice: *"),
     ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *"),
     ("two images", ("CNA-10102-FX/x.ufi", "x"), "*02, function 0: blade/*.ufi and blade/*.ufi match the firmware *"),
