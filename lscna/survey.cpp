@@ -322,8 +322,8 @@ void note_image(const SurveyedFlash& flash, const SurveyedImage& image, Notes& n
     for (const std::string& file : image.files) {
         if (const char* const fault = image_fault(file); *fault != '\0') {
             add_note(notes, port,
-                     format("%s, %s, %s: a flash would take it all the same", file.c_str(),
-                            name.c_str(), fault));
+                     format("%s, %s, %s, and a flash takes it all the same: replace it",
+                            file.c_str(), name.c_str(), fault));
         }
     }
 }

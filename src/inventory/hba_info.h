@@ -107,8 +107,7 @@ struct hba_info {
     std::int32_t attributes_status;
     std::int32_t mapping_status;
 
-    std::uint8_t mapping_reported; // its target-mapping report was read and has its title
-    std::uint8_t storage_differs;  // the report names storage beside that of target_mapping
+    std::uint8_t mapping_reported; // its target-mapping report was read, and its title names it
 };
 
 // Every port, null-terminated; null as long as no port was found.
