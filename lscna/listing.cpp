@@ -144,7 +144,7 @@ void print_flashes(const std::vector<SurveyedFlash>& flashes) {
             continue;
         }
         const std::string line =
-            format("%s, function %s, record %d: %s", flash.port->serial_no,
+            format("%s, function %s, record %d: %s", shown(flash.port->serial_no).c_str(),
                    flash.port->pci_function, flash.record->number,
                    below_directory(flash.firmware->files.front()).c_str()) +
             (flash.bios ? ", then BIOS " + below_directory(flash.bios->files.front()) : "");

@@ -158,7 +158,7 @@ std::string read_conditions(Notes& notes) {
     const bool usable = examine_conditions(path, notes);
     if (!usable || Read_FC_Config_File(path) == RET_FATAL_ERROR) {
         release_config_entry_list();
-        const std::string refused =
+        std::string refused =
             format("%s: cnatool refuses the file with 55, so it is not used: correct it", path);
         add_note(notes, refused);
         return refused;
