@@ -4,11 +4,9 @@
 
 // The exit statuses.
 constexpr int status_all_well = 0;
-constexpr int status_look = 1;
-constexpr int status_no_listing = 2;
-
-// Why the listing can't be made if the step that begins now ends the run (end_run).
-inline const char* ending_reason = "";
+constexpr int status_look = 1;       // something is to be looked at
+constexpr int status_no_listing = 2; // a bad call, or no list could be made or written
+constexpr int status_no_port = 3;    // the CLI works and lists no port
 
 // Runs the program on a command line. Returns the exit status.
 int run_lscna(int argc, char** argv);

@@ -18,7 +18,11 @@ void release_entry(fc_config_file_entry* entry) {
 } // namespace
 
 fc_config_file_entry* get_new_config_file_entry() {
-    return append_new_record(fc_config_entry_list, config_entry_cnt);
+    fc_config_file_entry* const entry = append_new_record(fc_config_entry_list, config_entry_cnt);
+    if (entry != nullptr) {
+        entry->number = config_entry_cnt;
+    }
+    return entry;
 }
 
 periphery_info_entry* get_new_periphery_info_entry() {

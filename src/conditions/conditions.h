@@ -37,6 +37,9 @@ struct fc_config_file_entry {
     char bios_image[80];     // the same; empty: no BIOS to flash
     char column10[80];
     periphery_info_entry* periphery;
+
+    std::int32_t number; // among all records, from 1
+    std::int32_t line;   // in the file
 };
 
 // Every record in file order, null-terminated; null as long as there is none.
@@ -46,7 +49,8 @@ inline std::span<fc_config_file_entry*> all_conditions() {
     return records(fc_config_entry_list);
 }
 
-// Makes a zero-filled record at the end of fc_config_entry_list; null when memory is exhausted.
+// Makes a record at the end of fc_config_entry_list, zero-filled but for its number; null when
+// memory is exhausted.
 fc_config_file_entry* get_new_config_file_entry();
 
 // Makes a zero-filled record, which the caller links; null when memory is exhausted.

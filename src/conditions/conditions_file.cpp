@@ -112,6 +112,7 @@ std::int32_t read_data_line(const char* text, std::int64_t number) {
         message(1, "Could not allocate memory for new fc_config_file entry.\n");
         return RET_MEMALLOC_FAIL;
     }
+    entry->line = static_cast<std::int32_t>(number);
     DataLine line{number, entry};
     for (std::string& value : values) {
         if (const std::int32_t result = store_column(value.data(), line); result != RET_OK) {

@@ -114,6 +114,7 @@ std::int32_t read_attributes(hba_info& port, const std::string& progress) {
     const std::string path = report_path(port, "hba_attributes.out");
     const std::int32_t status = make_report("\n\t\t", {"hbaattributes", port_identifier(port)},
                                             path, "\n", progress + ": attributes");
+    port.attributes_status = status;
     // Here every type that begins with "FC" is named by its world-wide name.
     const char* const name = begins_with(port.port_type, "FC") ? port.port_wwn : port.permanent_mac;
     if (status == 0) {

@@ -104,8 +104,11 @@ struct hba_info {
     std::uint8_t flash_done; // the flash engine has handled this port
     std::uint8_t check_done; // the consistency check has handled this port
 
-    std::uint8_t mapping_reported; // its target-mapping report was read and has its title
-    std::uint8_t storage_differs;  // the report names storage beside that of target_mapping
+    // What the commands for the port ended with: raw wait statuses, -1 for one that was not run.
+    std::int32_t attributes_status;
+    std::int32_t mapping_status;
+
+    std::uint8_t mapping_reported; // its target-mapping report was read, and its title names it
 };
 
 // Every port, null-terminated; null as long as no port was found.

@@ -38,7 +38,9 @@ std::int32_t Get_All_Hba_Info() {
         message(1, "\t\tCommand %s is not available!\n\n", hbacmd_path);
         return RET_SCLI_NOT_INSTALLED;
     }
-    take_turn();
+    if (!take_turn()) {
+        return cli_in_use;
+    }
     if (const std::int32_t result = read_adapter_list(); result != RET_OK) {
         return result;
     }

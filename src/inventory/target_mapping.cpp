@@ -16,20 +16,18 @@ using Entry = target_mapping_entry;
 constexpr const char* report_name = "target_mapping.out";
 constexpr std::string_view title = "Target Mapping for";
 
-// A row of the report's table: where the value of such a line goes, and whether it tells one
-// storage subsystem from another.
+// A row of the report's table: where the value of such a line goes.
 struct Label {
     std::string_view text;
     TextField<Entry> field;
-    bool names_storage = false;
 };
 
 constexpr Label labels[] = {
     {"FCP LUN", text_field<&Entry::fcp_lun>},
     {"SCSI OS Lun", text_field<&Entry::scsi_os_lun>},
     {"Lun Device Name", text_field<&Entry::lun_device_name>},
-    {"Vendor ID", text_field<&Entry::vendor_id>, true},
-    {"Product ID", text_field<&Entry::product_id>, true},
+    {"Vendor ID", text_field<&Entry::vendor_id>},
+    {"Product ID", text_field<&Entry::product_id>},
     {"Product Version", text_field<&Entry::product_version>},
     {"Type", text_field<&Entry::type>},
     {"SCSI Capacity", text_field<&Entry::scsi_capacity>},
@@ -40,15 +38,18 @@ constexpr Label labels[] = {
 constexpr int title_lines = 4;
 
 // A line without a colon stores nothing, but shows what the field holds.
-void store_value(const Label& label, char* line, hba_info& port) {
-    const std::span<char> field = label.field.of(*port.target_mapping);
+void store_value(const Label& label, char* line, Entry& mapping) {
+    const std::span<char> field = label.field.of(mapping);
     if (const char* const value = line_value(line)) {
-        if (label.names_storage && field[0] != '\0' && std::strcmp(field.data(), value) != 0) {
-            port.storage_differs = 1;
-        }
         copy_text(field, value);
     }
     message(6, "\t\t\t%s\n", field.data());
+}
+
+// Whether the title is that of the port's report, not of another port's.
+bool names(const char* line, const hba_info& port) {
+    std::string name = line + title.size();
+    return std::strcmp(cleanString(name.data()), port.port_wwn) == 0;
 }
 
 void read_mapping_line(char* line, bool below_title, hba_info& port) {
@@ -56,13 +57,13 @@ void read_mapping_line(char* line, bool below_title, hba_info& port) {
         port.target_mapping = &made(get_new_target_mapping_entry());
     }
     if (begins_with(line, title)) {
-        port.mapping_reported = 1;
+        port.mapping_reported = names(line, port) ? 1 : 0;
         message(6, "\n\t\t\t%s %s\n", title.data(), port.port_wwn);
         return;
     }
     const Label* const label = find_label(labels, line);
     if (label != nullptr && port.target_mapping != nullptr) {
-        store_value(*label, line, port);
+        store_value(*label, line, *port.target_mapping);
     }
 }
 
@@ -75,6 +76,7 @@ std::int32_t read_target_mapping(hba_info& port, const std::string& progress) {
     const std::string path = report_path(port, report_name);
     const std::int32_t status = make_report("\n\t\t\t", {"targetmapping", port.port_wwn}, path,
                                             "\n", progress + ": target mapping");
+    port.mapping_status = status;
     if (status == 0) {
         message(6, "\n\t\t\tSuccess, \"hbacmd targetmapping %s\" command returned code %d.\n",
                 port.port_wwn, status);

@@ -22,21 +22,25 @@ bool hbacmd_available() {
     return active_option_simulate != 0 || stat(hbacmd_path, &status) == 0;
 }
 
-void take_turn() {
+bool take_turn() {
     if (active_option_simulate != 0) {
-        return;
+        return true;
     }
     // The CLI's own file is the lock: there is one on the machine, and nothing to create. It
     // stays open to the end of the process, but not in its children: a daemon that the CLI
     // leaves running must not keep every later run waiting.
     const int descriptor = open(hbacmd_path, O_RDONLY | O_CLOEXEC);
     if (descriptor < 0 || flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
-        return;
+        return true;
+    }
+    if (active_option_no_wait != 0) {
+        return false;
     }
     std::fflush(nullptr);
     const TerminalLine line("waiting for another run");
     while (flock(descriptor, LOCK_EX) != 0 && errno == EINTR) {
     }
+    return true;
 }
 
 ShellCommand hbacmd_command(std::string_view lead, std::initializer_list<std::string_view> words,

@@ -15,8 +15,8 @@ bool hbacmd_available();
 // Waits while another run uses the CLI, and keeps the others waiting until the process ends: two
 // runs at once would rewrite each other's reports, or flash the same adapter. Signals end the
 // wait. A CLI that can't be opened for reading is used without taking turns. In simulate mode
-// nothing is waited for.
-void take_turn();
+// nothing is waited for. Returns false if another run uses the CLI and is not to be waited for.
+bool take_turn();
 
 // The command line that runs the CLI with `words`, each quoted where it needs to
 // be, its output in `file`; `lead` and `tail` frame it.

@@ -7,6 +7,7 @@
 
 // What the options switch on, each 0 or 1.
 inline std::int32_t active_option_simulate = 0; // the vendor CLI is not run
+inline std::int32_t active_option_no_wait = 0;  // another run that uses it is not waited for
 inline std::int32_t active_option_valid_subsystem = 0;
 inline std::int32_t active_option_ctrl_wide_identical = 0;
 inline std::int32_t active_option_ctrl_vendor_wide_identical = 0;
