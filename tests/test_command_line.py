@@ -122,7 +122,7 @@ def test_information_ends_the_run(blade, words, text):
     pytest.param("--silent -v 7", "", id="silent-before-it"),
     pytest.param("-v 7 x--silent", "", id="silent-after-it"),
     pytest.param("-v 3 --silent -d 7", "", id="silent-between"),
-    pytest.param("--silent -v 3 -d 3", "\nUsing options --debug and -v simultaneously is not supported!",
+    pytest.param("-v 3 -d 3 --silent", "\nUsing options --debug and -v simultaneously is not supported!",
                  id="both-is-told-even-when-silent"),
 ])
 def test_refused_level(blade, words, text):
@@ -139,7 +139,7 @@ def test_level_of_more_than_64_bits(blade):
 @pytest.mark.parametrize("word", ["", "bogus", "-v--version", "x-mod", "x--ctrl-vendor-wide-identical", "--flashx",
                                   "--simulatex", "x--qmr-mode"])
 def test_invalid_argument(blade, word):
-    expect(blade.run(CNATOOL, [word, "--info", "--silent"][:2]), 3, f"\n\nInvalid argument '{word}' !\n")
+    expect(blade.run(CNATOOL, [word, "--info"]), 3, f"\n\nInvalid argument '{word}' !\n")
 
 
 @pytest.mark.parametrize("words, status", [
@@ -265,7 +265,7 @@ def test_refused_selection(blade, words, status, text):
 
 @pytest.mark.parametrize("option", ["-model", "-pci-id"])
 def test_longest_value(blade, option):
-    expect(blade.run(CNATOOL, [option, "0" * 1020 + "1:1", "-vn", "x", "--version"]), 0, "*.*.*.*")
+    expect(blade.run(CNATOOL, [option, "0" * 1020 + "1:1", "--version"]), 0, "*.*.*.*")
     expect(blade.run(CNATOOL, [option, "0" * 1021 + "1:1"]), 3,
            f"\n\nValue of option '{option}' is too long (at most 1023 characters)!\n")
 

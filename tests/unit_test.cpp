@@ -173,9 +173,9 @@ TEST(Shell, GetsEveryCharacterAsItIs) {
     std::string command = "printf '%s\\n'";
     std::string values;
     for (int byte = 1; byte <= 255; ++byte) {
+        const std::string text(1, static_cast<char>(byte));
         // "/tm" and a wildcard would become "/tmp".
-        for (const char* before : {"", "/tm"}) {
-            const std::string value = std::string(before) + static_cast<char>(byte);
+        for (const std::string& value : {text, "/tm" + text, text + "0"}) {
             command += " " + shell_word(value);
             values += value + "\n";
         }
