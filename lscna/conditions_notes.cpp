@@ -3,11 +3,16 @@
 #include "conditions/columns.h"
 #include "conditions/conditions_file.h"
 #include "lscna/format.h"
+#include "run/base/text.h"
 #include "run/base/text_file.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdio>
 #include <cstring>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 

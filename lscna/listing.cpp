@@ -1,13 +1,18 @@
 #include "lscna/listing.h"
 
+#include "conditions/conditions.h"
+#include "inventory/hba_info.h"
 #include "lscna/format.h"
 #include "lscna/json_text.h"
+#include "lscna/notes.h"
 #include "run/base/settings.h"
 
 #include <algorithm>
-#include <array>
+#include <cstddef>
 #include <cstdio>
-#include <iterator>
+#include <optional>
+#include <string_view>
+#include <vector>
 
 namespace {
 

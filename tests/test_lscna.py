@@ -173,8 +173,8 @@ def test_each_verdict_has_its_reason(good):
 
 def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
     blade.remove("is*")
-    # A backslash, a quotation mark (read as a blank), two bytes of a letter, no UTF-8, an overlong one, a control byte.
-    vendor = b'\\\\"\xc3\xa4\xff\xc0\xaf\x01'.decode("utf-8", "surrogateescape")
+    # A backslash, a quotation mark (read as a blank), a letter of two bytes, no UTF-8, an overlong slash, controls.
+    vendor = b'\\\\"\xc3\xa4\xff\xc0\xaf\x01\x7f'.decode("utf-8", "surrogateescape")
     blade.edit("VM20713302_2_target_mapping.out", ("NRB", vendor))
     blade.edit("VM20713302_2_hba_attributes.out", ("^(Operational FW.*) .*", r"\1"))
     blade.edit("VM20713302_1_hba_attributes.out", ("^(FW Version.*) .*", r"\1 old"), ("^(Sub Device.*) .*", r"\1 ?"))
@@ -186,7 +186,7 @@ def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
         "mac": "00:00:c9:b2:00:02", "bus": "15", "firmware": "4.6.142.10"}
     assert answer["ports"][1:3] == [fn1, fn1 | {
         "fn": "2", "port": "0", "type": "FCoE", "wwn": "10:00:00:00:c9:b2:00:11", "mac": None, "record": 2, "line": 22,
-        "storage": {"vendor": "\\ \xe4\ufffd\ufffd\ufffd\x01", "product": "Marlovan_SX1", "version": "7.12"},
+        "storage": {"vendor": "\\ \xe4\ufffd\ufffd\ufffd\x01\x7f", "product": "Marlovan_SX1", "version": "7.12"},
         "pci-id": "19A2:0714:1C3E:11C2", "verdict": "not allowed",
         "reason": "record 2 (line 22) allows DGC Marlovan_CX"}]
     image = "blade/CNA-10102-FX/fx-"
@@ -198,7 +198,7 @@ def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
          "firmware": {"pattern": "is10102-", "files": []}}]
     assert answer["notes"][0] == {"adapter": "VM20713302", "functions": ["1"], "text": answer["notes"][0]["text"]}
     # A terminal gets no byte that could change it.
-    assert "\\ ?????? Marlovan_SX1" in simulated(blade).output
+    assert "\\ ??????? Marlovan_SX1" in simulated(blade).output
 
 
 @pytest.mark.parametrize("words, status, notes", [
