@@ -61,22 +61,22 @@ INFORMATION = {"-?", "-h", "--help", "--hiddenhelp", "--info", "--version", "--s
 
 
 @pytest.mark.parametrize("words, excluded", [
-    ("-v 2 --flash -vid 19A2 ", INFORMATION | {"-v", "-d", "--flash", "-vid", "-vn", "-mod"}),
-    ("-vn Emulex ", INFORMATION | {"-vn", "-vid", "-dev", "-subvid", "-subdev"}),
-    ("--help ", set(OPTIONS)),
+    pytest.param("-v 2 --flash -vid 19A2 ", INFORMATION | {"-v", "-d", "--flash", "-vid", "-vn", "-mod"}, id="ids"),
+    pytest.param("-vn Emulex ", INFORMATION | {"-vn", "-vid", "-dev", "-subvid", "-subdev"}, id="names"),
+    pytest.param("--help ", set(OPTIONS), id="information"),
 ])
 def test_completion_leaves_out_what_a_word_excludes(blade, words, excluded):
     assert sorted(completed(blade, words)) == sorted(set(OPTIONS) - excluded)
 
 
 @pytest.mark.parametrize("words, offered", [
-    ("-d 6 --s", ["--silent", "--simulate"]),
-    ("-v ", list("0123456")),
-    ("--conpath b", ["blade"]),
+    pytest.param("-d 6 --s", ["--silent", "--simulate"], id="option"),
+    pytest.param("-v ", list("0123456"), id="level"),
+    pytest.param("--conpath b", ["blade"], id="directory"),
     pytest.param("--conpath /", [], id="no-absolute-directory"),
-    ("-vid 1", []),
+    pytest.param("-vid 1", [], id="no-list"),
     pytest.param("-pci-id 1", [], id="no-conditions-in-the-current-directory"),
-    ("--conpath blade -pci-id 19a2:0714:", ["1C3E:11C1", "1C3E:11C2"]),
+    pytest.param("--conpath blade -pci-id 19a2:0714:", ["1C3E:11C1", "1C3E:11C2"], id="identities-of-the-conditions"),
     pytest.param("--conpath blade -pci-id 19A2:0714:1C3E:11C1,19A2:0714:", ["1C3E:11C2"], id="nothing-twice"),
 ])
 def test_completion_of_a_value(blade, words, offered):

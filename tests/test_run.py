@@ -88,7 +88,7 @@ def test_wait_for_a_turn_comes_after_what_was_said_and_ends_with_ctrl_c(cli, tur
     assert run.wait(60) == -signal.SIGINT
 
 
-# Signals.
+# Signals. A download holds all but SIGCHLD, which would look like a signal that waits.
 
 
 def signals(line):
@@ -155,7 +155,10 @@ def test_closed_streams_are_open_for_the_cli(cli):
     assert (cli.directory / "streams").read_text() == "/dev/null\n" * 2
 
 
-@pytest.mark.parametrize("umask, mode", [("0", 0o644), ("077", 0o600)])
+@pytest.mark.parametrize("umask, mode", [
+    pytest.param("0", 0o644, id="open"),
+    pytest.param("077", 0o600, id="strict"),
+])
 def test_reports_and_trace_are_not_writable_by_others(cli, umask, mode):
     expect(shell(cli, f"umask {umask}; exec {REAL} --silent {FLASH_FM}"), 0)
     for name in LIST, REPORT, TRACE:
@@ -255,8 +258,8 @@ def test_report_of_a_command_that_is_too_long_is_empty(cli):
 
 
 @pytest.mark.parametrize("length, status, text", [
-    (1000, 0, "...\n\tNow start flashing the firmware.\n..."),
-    (1001, 20, "...\n\tNo BIOS- or firmware-image was found in fm10102-!"),
+    pytest.param(1000, 0, "...\n\tNow start flashing the firmware.\n...", id="1023-characters"),
+    pytest.param(1001, 20, "...\n\tNo BIOS- or firmware-image was found in fm10102-!", id="1024-characters"),
 ])
 def test_image_whose_path_is_too_long_is_passed_over(blade, length, status, text):
     directory = in_a_long_directory(blade, length)
