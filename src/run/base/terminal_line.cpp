@@ -5,9 +5,9 @@
 
 namespace {
 
+// Whether standard error is a terminal and no other job has it.
 bool watched() {
-    return terminal_lines_enabled && isatty(STDERR_FILENO) == 1 &&
-           tcgetpgrp(STDERR_FILENO) == getpgrp();
+    return terminal_lines_enabled && tcgetpgrp(STDERR_FILENO) == getpgrp();
 }
 
 } // namespace
@@ -16,13 +16,11 @@ TerminalLine::TerminalLine(std::string_view text) {
     if (!text.empty() && watched()) {
         length_ = static_cast<int>(text.size());
         std::fprintf(stderr, "\r%.*s\r", length_, text.data());
-        std::fflush(stderr);
     }
 }
 
 TerminalLine::~TerminalLine() {
     if (length_ > 0) {
         std::fprintf(stderr, "\r%*s\r", length_, "");
-        std::fflush(stderr);
     }
 }
