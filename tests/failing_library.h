@@ -3,5 +3,5 @@
 
 #include <climits>
 
-inline int records_left = INT_MAX; // for so many more records there is memory
+inline int records_left = INT_MAX; // made before there is no memory for one
 inline bool reading_fails = false; // a file that was read seems to have ended with an error
