@@ -469,9 +469,8 @@ std::string group_of(const option_input& entry) {
 
 void note_selection(const option_input* selection, Notes& notes) {
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
-        if (std::ranges::none_of(all_ports(), [&](const hba_info* port) {
-                return !serial_missing(*port) && selects(*entry, *port);
-            })) {
+        if (std::ranges::none_of(all_ports(),
+                                 [&](const hba_info* port) { return selects(*entry, *port); })) {
             add_note(notes, "--pci-id: no port has " + group_of(*entry));
         }
     }
