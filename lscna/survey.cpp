@@ -358,7 +358,7 @@ bool is_flash_port(const hba_info& port) {
 }
 
 // Whether the port is to be listed. One whose ids are not known is: it could be meant.
-bool is_listed(const hba_info& port, const option_input* selection) {
+bool is_to_be_listed(const hba_info& port, const option_input* selection) {
     if (selection == nullptr) {
         return true;
     }
@@ -393,21 +393,25 @@ void survey_port(const hba_info& port, bool is_selected, const CommonCauses& cau
     }
 }
 
-bool same_images(const Record& a, const Record* b) {
-    return b != nullptr && same(a.firmware_image, b->firmware_image) &&
-           same(a.bios_image, b->bios_image);
+bool same_images(const Record* a, const Record* b) {
+    return a == b || (a != nullptr && b != nullptr && same(a->firmware_image, b->firmware_image) &&
+                      same(a->bios_image, b->bios_image));
 }
 
 // The ids of a flash port can be those of another adapter's port: a flash that selects them writes
-// through that adapter's flash port, too, whatever record this one has.
+// through that adapter's flash port, too, whatever that is listed to get.
 void note_side_effects(Survey& survey) {
     for (const SurveyedPort& surveyed : survey.ports) {
         const hba_info& port = *surveyed.port;
         const Record* const record = record_of_flash(port);
-        const bool is_flashed = std::ranges::any_of(
-            survey.flashes, [&](const SurveyedFlash& flash) { return flash.record == record; });
-        if (record != nullptr && is_flashed && port.flash_port != nullptr &&
-            !same_images(*record, record_of_flash(*port.flash_port))) {
+        bool is_selected = false;
+        bool is_listed = false;
+        for (const SurveyedFlash& flash : survey.flashes) {
+            is_selected = is_selected || flash.record == record;
+            is_listed =
+                is_listed || (flash.port == port.flash_port && same_images(flash.record, record));
+        }
+        if (record != nullptr && port.flash_port != nullptr && is_selected && !is_listed) {
             add_note(survey.notes, port,
                      format("it has the ids of a flash port, %s: a flash that selects them writes "
                             "the images of %s to this adapter, too",
@@ -500,7 +504,7 @@ void survey_ports(const option_input* selection, const CommonCauses& causes, Sur
         if (!serial_missing(*port) && port->flash_port == nullptr) {
             add_note(survey.notes, *port, no_flash_port);
         }
-        if (is_listed(*port, selection)) {
+        if (is_to_be_listed(*port, selection)) {
             survey_port(*port, selection != nullptr, causes, survey);
         }
     }
