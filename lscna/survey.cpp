@@ -99,13 +99,6 @@ std::string mixed_up_record(const hba_info& port) {
     return "";
 }
 
-// The beginning of a value that can be one of a record: not too long, and nothing in it that the
-// file's reader takes for something else.
-std::string beginning(const char* value, std::size_t length_max) {
-    const std::string_view text(value, strnlen(value, length_max));
-    return std::string(text.substr(0, text.find_first_of("|#\",")));
-}
-
 // A record for the ports with the ids, which allows the storage that they see.
 std::string whole_record(const std::string& ids) {
     std::string record;
@@ -114,18 +107,17 @@ std::string whole_record(const std::string& ids) {
             continue;
         }
         if (record.empty()) {
-            record = beginning(port->mfg, sizeof Record::vendor - 1) + " | " +
-                     beginning(port->model, sizeof Record::model - 1);
+            // Vendor and model are prefixes: what is too long for its column is cut.
+            record = format("%.*s | %.*s", static_cast<int>(sizeof Record::vendor - 1), port->mfg,
+                            static_cast<int>(sizeof Record::model - 1), port->model);
             for (const std::string_view id : split(ids, ':')) {
                 record.append(" | ").append(id);
             }
             record += " | x | x | | | x | x";
         }
         if (port->target_mapping != nullptr && !is_blank(port->target_mapping->vendor_id)) {
-            const target_mapping_entry& storage = *port->target_mapping;
-            const std::string allowed =
-                " | " + beginning(storage.vendor_id, sizeof periphery_info_entry::vendor - 1) +
-                " | " + beginning(storage.product_id, sizeof storage.product_id) + " | x";
+            const std::string allowed = format(" | %s | %s | x", port->target_mapping->vendor_id,
+                                               port->target_mapping->product_id);
             record += record.find(allowed) == std::string::npos ? allowed : "";
         }
     }
