@@ -99,13 +99,6 @@ std::string mixed_up_record(const hba_info& port) {
     return "";
 }
 
-// The beginning of a value that can be one of a record: not too long, and nothing in it that the
-// file's reader takes for something else.
-std::string beginning(const char* value, std::size_t length_max) {
-    const std::string_view text(value, strnlen(value, length_max));
-    return std::string(text.substr(0, text.find_first_of("|#\",")));
-}
-
 // A record for the ports with the ids, which allows the storage that they see.
 std::string whole_record(const std::string& ids) {
     std::string record;
@@ -114,18 +107,17 @@ std::string whole_record(const std::string& ids) {
             continue;
         }
         if (record.empty()) {
-            record = beginning(port->mfg, sizeof Record::vendor - 1) + " | " +
-                     beginning(port->model, sizeof Record::model - 1);
+            // Vendor and model are prefixes: what is too long for its column is cut.
+            record = format("%.*s | %.*s", static_cast<int>(sizeof Record::vendor - 1), port->mfg,
+                            static_cast<int>(sizeof Record::model - 1), port->model);
             for (const std::string_view id : split(ids, ':')) {
                 record.append(" | ").append(id);
             }
             record += " | x | x | | | x | x";
         }
         if (port->target_mapping != nullptr && !is_blank(port->target_mapping->vendor_id)) {
-            const target_mapping_entry& storage = *port->target_mapping;
-            const std::string allowed =
-                " | " + beginning(storage.vendor_id, sizeof periphery_info_entry::vendor - 1) +
-                " | " + beginning(storage.product_id, sizeof storage.product_id) + " | x";
+            const std::string allowed = format(" | %s | %s | x", port->target_mapping->vendor_id,
+                                               port->target_mapping->product_id);
             record += record.find(allowed) == std::string::npos ? allowed : "";
         }
     }
@@ -358,7 +350,7 @@ bool is_flash_port(const hba_info& port) {
 }
 
 // Whether the port is to be listed. One whose ids are not known is: it could be meant.
-bool is_listed(const hba_info& port, const option_input* selection) {
+bool is_to_be_listed(const hba_info& port, const option_input* selection) {
     if (selection == nullptr) {
         return true;
     }
@@ -393,21 +385,25 @@ void survey_port(const hba_info& port, bool is_selected, const CommonCauses& cau
     }
 }
 
-bool same_images(const Record& a, const Record* b) {
-    return b != nullptr && same(a.firmware_image, b->firmware_image) &&
-           same(a.bios_image, b->bios_image);
+bool same_images(const Record* a, const Record* b) {
+    return a == b || (a != nullptr && b != nullptr && same(a->firmware_image, b->firmware_image) &&
+                      same(a->bios_image, b->bios_image));
 }
 
 // The ids of a flash port can be those of another adapter's port: a flash that selects them writes
-// through that adapter's flash port, too, whatever record this one has.
+// through that adapter's flash port, too, whatever that is listed to get.
 void note_side_effects(Survey& survey) {
     for (const SurveyedPort& surveyed : survey.ports) {
         const hba_info& port = *surveyed.port;
         const Record* const record = record_of_flash(port);
-        const bool is_flashed = std::ranges::any_of(
-            survey.flashes, [&](const SurveyedFlash& flash) { return flash.record == record; });
-        if (record != nullptr && is_flashed && port.flash_port != nullptr &&
-            !same_images(*record, record_of_flash(*port.flash_port))) {
+        bool is_selected = false;
+        bool is_listed = false;
+        for (const SurveyedFlash& flash : survey.flashes) {
+            is_selected = is_selected || flash.record == record;
+            is_listed =
+                is_listed || (flash.port == port.flash_port && same_images(flash.record, record));
+        }
+        if (record != nullptr && port.flash_port != nullptr && is_selected && !is_listed) {
             add_note(survey.notes, port,
                      format("it has the ids of a flash port, %s: a flash that selects them writes "
                             "the images of %s to this adapter, too",
@@ -469,9 +465,8 @@ std::string group_of(const option_input& entry) {
 
 void note_selection(const option_input* selection, Notes& notes) {
     for (const option_input* entry = selection; entry != nullptr; entry = entry->next) {
-        if (std::ranges::none_of(all_ports(), [&](const hba_info* port) {
-                return !serial_missing(*port) && selects(*entry, *port);
-            })) {
+        if (std::ranges::none_of(all_ports(),
+                                 [&](const hba_info* port) { return selects(*entry, *port); })) {
             add_note(notes, "--pci-id: no port has " + group_of(*entry));
         }
     }
@@ -501,7 +496,7 @@ void survey_ports(const option_input* selection, const CommonCauses& causes, Sur
         if (!serial_missing(*port) && port->flash_port == nullptr) {
             add_note(survey.notes, *port, no_flash_port);
         }
-        if (is_listed(*port, selection)) {
+        if (is_to_be_listed(*port, selection)) {
             survey_port(*port, selection != nullptr, causes, survey);
         }
     }
