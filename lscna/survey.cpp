@@ -8,6 +8,7 @@
 #include "inventory/target_mapping.h"
 #include "lscna/format.h"
 #include "run/base/result_flags.h"
+#include "run/base/settings.h"
 #include "run/base/text.h"
 
 #include <algorithm>
@@ -298,18 +299,23 @@ void note_image(const SurveyedFlash& flash, const SurveyedImage& image, Notes& n
     const hba_info& port = *flash.port;
     const std::string name = format("the %s image '%s' of %s", image.kind, image.pattern.c_str(),
                                     named(*flash.record).c_str());
+    const std::string directory = image_directory(port);
+    const std::string no_own =
+        directory == pHBAFirmwarePath && *port.model != '\0'
+            ? format("there is no directory %s%s, and ", pHBAFirmwarePath, port.model)
+            : "";
     if (image.pattern.empty()) {
         add_note(notes, port,
                  named(*flash.record) + " names no firmware image, so a flash ends with 20");
     } else if (image.files.empty()) {
         add_note(notes, port,
-                 format("no file in %s is %s, so a flash ends with 20",
-                        image_directory(port).c_str(), name.c_str()));
+                 format("%sno file in %s is %s, so a flash ends with 20", no_own.c_str(),
+                        directory.c_str(), name.c_str()));
     } else if (image.files.size() > 1) {
         add_note(notes, port,
-                 format("%s match %s, and a flash takes either: give a longer beginning of the "
+                 format("%s%s match %s, and a flash takes either: give a longer beginning of the "
                         "name, or move the others away",
-                        join(image.files).c_str(), name.c_str()));
+                        no_own.c_str(), join(image.files).c_str(), name.c_str()));
     }
     for (const std::string& file : image.files) {
         if (const char* const fault = image_fault(file); *fault != '\0') {

@@ -95,7 +95,7 @@ CAUSES = [
      "record 1 (line 21) and record 6 (line 26) have the same four ids: *"),
     ("no flash port", (LIST, "^(Serial.*VM1.*\nPort Number.*) .$", r"\1 3"), "*17, functions 0, 1, 2 and 3: *no f*"),
     ("a function twice", (LIST, r"(18\nPCI Function *: )1", r"\g<1>0"), "VM30550041, function 0: * is listed twice: *"),
-    ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *"),
+    ("no image", (removed(IMAGE),), "*17, function 0: there is no directory *, and no file in blade/ is the firmware image * of record 3 *"),
     ("another model's directory", ("VM20713302_0_hba*", "11C2", "11C1"), "*02, function 0: no file in blade/CNA-10102-FX/ *"),
     ("two images", ("CNA-10102-FX/x.ufi", "x"), "*02, function 0: blade/*.ufi and blade/*.ufi match the firmware *"),
     ("an empty image", (IMAGE, ""), f"*17, function 0: blade/{IMAGE}, *, is empty, and *"),
