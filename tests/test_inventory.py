@@ -32,8 +32,9 @@ def test_missing_cli(cli):
 
 
 def test_list_whose_command_fails_counts_for_nothing(cli):
-    cli.on("listhbas1", "cat cli/reports/local_hba_list.out; exit 3")
-    expect(cli.real("-v 4"), 13, f'...\n\nFail, "hbacmd listhbas" command returned code 768.\n{NO_BLADE}')
+    cli.on("listhbas1", "cat cli/reports/local_hba_list.out; echo 'The list is made.' >&2; exit 3")
+    expect(cli.real("-v 6"), 13, "...\n./hbacmd listhbas > blade//local_hba_list.out \nThe list is made.\n\n"
+           f'Fail, "hbacmd listhbas" command returned code 768.\n{NO_BLADE}')
     assert cli.calls == CALLS[:1]
 
 
