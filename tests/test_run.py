@@ -229,7 +229,8 @@ def test_log_is_written_anew_up_to_an_early_end(blade):
     blade.path(LOG).chmod(0o644)
     blade.remove(LIST)
     expect(blade.simulated("-d 1"), 13)
-    assert blade.read(LOG) == f"Error: Could not open file blade//{LIST}\n\nNo Blade Engine was found in this system.\n\n"
+    assert blade.read(LOG) == \
+        f"Error: Could not open file blade//{LIST}\n\nNo Blade Engine was found in this system.\n\n"
     assert blade.path(LOG).stat().st_mode & 0o777 == 0o600
 
 
