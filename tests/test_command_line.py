@@ -158,7 +158,7 @@ def test_selection(blade, words, status):
     pytest.param("-v 2 -pci-id 1:2 -vid 1", "", id="at-level-2"),
     # Colons in a row are one, and two commas in a row end the list.
     pytest.param("-v 6 -pci-id 0x19a2::0710:1C3E:11C1:,,1:2", '\nList of input pci-ids: "*,,1:2"\n\n'
-                 "\tVendor-Id 0x19a2\n\tDevice-Id 0x710\n\tSubVendor-Id 0x1c3e\n\tSubDevice-Id 0x11c1\n", id="one-list"),
+                 "\tVendor-Id 0x19a2\n\tDevice-Id 0x710\n\tSubVendor-Id 0x1c3e\n\tSubDevice-Id 0x11c1\n", id="first"),
     pytest.param("-v 6 -pci-id ,1:2", "\nList*\n\n*Id 0x0\n*Id 0x0\n*Id 0x0\n*Id 0x0\n", id="no-first-group"),
     pytest.param("-v 6 -pci-id 1:2:3:4,5:6 -pci-id 7:8,:,", '...\nList of input pci-ids: "7:8,:,"\n'
                  "\n* 0x7\n* 0x8\n* 0x3\n* 0x4\n\n* 0x5\n* 0x6\n* 0x0\n* 0x0\n", id="second-list-of-pci-ids"),
