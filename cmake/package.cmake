@@ -12,31 +12,45 @@ set(generated ${PROJECT_BINARY_DIR}/packaging)
 
 # Fills in a template and compresses it, always to the same bytes.
 find_program(GZIP gzip REQUIRED)
-function(install_compressed template name destination)
+function(compress template name)
   configure_file(${template} ${generated}/${name} @ONLY)
-  execute_process(COMMAND ${GZIP} -9nc ${generated}/${name} OUTPUT_FILE ${generated}/${name}.gz
-    COMMAND_ERROR_IS_FATAL ANY)
-  install(FILES ${generated}/${name}.gz DESTINATION ${destination})
+  execute_process(COMMAND ${GZIP} -9nkf ${generated}/${name} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-# Directories of its own are not left to the installer's umask.
+# The release stands beside the version in the changelog's newest section.
+file(STRINGS CHANGELOG.md newest REGEX "^## " LIMIT_COUNT 1)
+if(NOT newest MATCHES "^## ${PROJECT_VERSION}-([0-9]+)$")
+  message(FATAL_ERROR "CHANGELOG.md must begin with a section \"## ${PROJECT_VERSION}-RELEASE\", not \"${newest}\"")
+endif()
+set(release ${CMAKE_MATCH_1})
+# Both follow SOURCE_DATE_EPOCH.
+string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+string(TIMESTAMP seconds "%s" UTC)
+
+# Directories of its own are not left to the installer's umask. The documents lie as they
+# do in the source tree, so that what they name is there.
 set(open_directory DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(open_files FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 install(DIRECTORY DESTINATION ${home} ${open_directory})
 install(DIRECTORY DESTINATION ${doc} ${open_directory})
-install(DIRECTORY examples/blade DESTINATION ${doc}/examples ${open_files} ${open_directory})
-install(DIRECTORY contrib/ansible DESTINATION ${doc}/examples ${open_files} ${open_directory}
+install(DIRECTORY contrib docs examples DESTINATION ${doc} ${open_files} ${open_directory}
   PATTERN __pycache__ EXCLUDE)
+install(FILES README.md CHANGELOG.md packaging/copyright DESTINATION ${doc})
 install(TARGETS cnatool lscna DESTINATION ${home})
 install(FILES completion/cnatool completion/lscna DESTINATION usr/share/bash-completion/completions)
-install(FILES docs/automation.md CHANGELOG.md packaging/copyright
-  packaging/FC_HBA_Conditions.txt.template DESTINATION ${doc})
-install(FILES packaging/lintian-overrides DESTINATION usr/share/lintian/overrides RENAME cnatool)
-install_compressed(man/cnatool.8.in cnatool.8 usr/share/man/man8)
-install_compressed(man/lscna.8.in lscna.8 usr/share/man/man8)
-install_compressed(man/FC_HBA_Conditions.txt.5.in FC_HBA_Conditions.txt.5 usr/share/man/man5)
-install_compressed(packaging/changelog.in changelog ${doc})
+foreach(page cnatool.8 lscna.8 FC_HBA_Conditions.txt.5)
+  string(REGEX MATCH ".$" section ${page})
+  compress(man/${page}.in ${page})
+  install(FILES ${generated}/${page}.gz DESTINATION usr/share/man/man${section})
+endforeach()
+
+# What only a .deb holds; packaging/deb.cmake adds it.
+set(CPACK_DEBIAN_SHARE ${generated}/deb)
+compress(packaging/changelog.in changelog.Debian)
+configure_file(${generated}/changelog.Debian.gz ${CPACK_DEBIAN_SHARE}/doc/cnatool/changelog.Debian.gz COPYONLY)
+configure_file(packaging/lintian-overrides ${CPACK_DEBIAN_SHARE}/lintian/overrides/cnatool COPYONLY)
+set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/packaging/deb.cmake)
 
 set(CPACK_GENERATOR DEB RPM)
 set(CPACK_PACKAGE_NAME cnatool)
@@ -57,11 +71,13 @@ set(CPACK_STRIP_FILES ON)
 # The program is linked statically and starts commands through /bin/sh, which every
 # Debian system has.
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE ${release})
 set(CPACK_DEBIAN_PACKAGE_SECTION admin)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION TRUE)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/postrm)
 
 set(CPACK_RPM_FILE_NAME RPM-DEFAULT)
+set(CPACK_RPM_PACKAGE_RELEASE ${release})
 set(CPACK_RPM_PACKAGE_LICENSE "All rights reserved")
 set(CPACK_RPM_PACKAGE_GROUP "System Environment/Base")
 set(CPACK_RPM_PACKAGE_DESCRIPTION ${CPACK_PACKAGE_DESCRIPTION})
@@ -69,9 +85,11 @@ set(CPACK_RPM_PACKAGE_AUTOREQPROV no)
 set(CPACK_RPM_PACKAGE_REQUIRES /bin/sh)
 set(CPACK_RPM_POST_UNINSTALL_SCRIPT_FILE ${PROJECT_SOURCE_DIR}/packaging/postun)
 set(CPACK_RPM_SPEC_MORE_DEFINE "%define _build_id_links none
-%define packager ${CPACK_PACKAGE_CONTACT}")
+%define packager ${CPACK_PACKAGE_CONTACT}
+%define _buildhost localhost
+%define use_source_date_epoch_as_buildtime 1
+%define __os_install_post find %{buildroot} -exec touch -hd @${seconds} {} +")
 set(CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION
   /opt /usr /usr/share /usr/share/doc /usr/share/man /usr/share/man/man5 /usr/share/man/man8
-  /usr/share/bash-completion /usr/share/bash-completion/completions
-  /usr/share/lintian /usr/share/lintian/overrides)
+  /usr/share/bash-completion /usr/share/bash-completion/completions)
 include(CPack)

@@ -3,11 +3,16 @@
 #include "conditions/columns.h"
 #include "conditions/conditions_file.h"
 #include "lscna/format.h"
+#include "run/base/text.h"
 #include "run/base/text_file.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdio>
 #include <cstring>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -31,55 +36,55 @@ constexpr FileMistake file_mistakes[] = {
      "a line of more than 1023 characters is read in pieces, each as a line: shorten it"},
 };
 
-// What a column is called, how long its values can be, and whether a longer one is refused.
-struct Room {
-    const char* column;
-    std::size_t length_max;
-    bool is_refused;
-};
-
-Room room_of(std::size_t column) {
-    if (column < conditions_columns.size()) {
-        const ConditionsColumn& part = conditions_columns[column];
-        const bool is_text = part.number == nullptr;
-        return {part.name, is_text ? part.field.length_max : piece_length,
-                is_text && part.refused_name != nullptr};
-    }
-    const SubsystemColumn& part =
-        subsystem_columns[(column - conditions_columns.size()) % subsystem_columns.size()];
-    return {part.name, part.is_model_list ? piece_length : part.field.length_max,
-            part.refused_name != nullptr};
+// Why cnatool refuses the value of a column; empty when it does not.
+template <class Column>
+std::string too_long(const Column& column, const std::string& value) {
+    const bool cut = value.size() > column.field.length_max;
+    return cut && column.refused_name != nullptr
+               ? format("%s '%s' is longer than %zu characters", column.name, value.c_str(),
+                        column.field.length_max)
+               : "";
 }
 
-// The mistakes of one record.
+std::string refusal(std::size_t index, const std::string& value) {
+    if (index >= conditions_columns.size()) {
+        const std::size_t position = (index - conditions_columns.size()) % subsystem_columns.size();
+        return too_long(subsystem_columns[position], value);
+    }
+    const ConditionsColumn& column = conditions_columns[index];
+    if (column.number == nullptr) {
+        return too_long(column, value);
+    }
+    return is_accepted_number(value, 16)
+               ? ""
+               : format("%s '%s' is not hexadecimal", column.name, value.c_str());
+}
+
+// The mistakes of one record. `usable` becomes false at one for which cnatool refuses the file.
 std::vector<std::string> examine_record(const char* line, bool& usable) {
-    constexpr std::size_t ids_end = 6;
     const std::vector<std::string> values = column_values(line);
     std::vector<std::string> mistakes;
     for (std::size_t i = 0; i < values.size(); ++i) {
-        const char* const value = values[i].c_str();
-        const Room room = room_of(i);
-        if (i < conditions_columns.size() && conditions_columns[i].number != nullptr &&
-            !is_accepted_number(value, 16)) {
+        if (const std::string mistake = refusal(i, values[i]); !mistake.empty()) {
+            mistakes.push_back(mistake);
             usable = false;
-            mistakes.push_back(
-                format("%s '%s' is not hexadecimal: cnatool refuses the file", room.column, value));
-        } else if (values[i].size() > room.length_max && room.is_refused) {
-            usable = false;
-            mistakes.push_back(
-                format("%s '%s' is longer than %zu characters: cnatool refuses the file",
-                       room.column, value, room.length_max));
-        } else if (values[i].size() > room.length_max) {
-            mistakes.push_back(
-                format("%s '%s' is cut to %zu characters", room.column, value, room.length_max));
+        }
+    }
+    constexpr std::size_t ids_end = 6;
+    constexpr std::size_t first_models = conditions_columns.size() + 1;
+    for (std::size_t i = first_models; i < values.size(); i += subsystem_columns.size()) {
+        if (values[i].find(", ") != std::string::npos ||
+            values[i].find(" ,") != std::string::npos) {
+            mistakes.push_back(format("a blank beside a comma becomes part of a model in '%s': "
+                                      "remove it",
+                                      values[i].c_str()));
         }
     }
     const bool blank = line[std::strspn(line, " \t\"\r\n")] == '\0';
     if (!blank && std::strchr(line, '|') == nullptr) {
-        return {
-            "no bar: columns are separated by bars, tabs do not count; a comment begins with #"};
-    }
-    if (!blank && values.size() < ids_end) {
+        mistakes = {"no bar: columns are separated by bars, tabs do not count; a comment begins "
+                    "with #"};
+    } else if (!blank && values.size() < ids_end) {
         mistakes.emplace_back("a record without all four ids, in the columns 2 to 5");
     }
     return mistakes;
@@ -93,51 +98,52 @@ std::vector<std::string> examine_line(const char* line, bool& usable) {
     const char* const sign = std::strchr(line, '#');
     const char* const bar = std::strchr(line, '|');
     if (sign != nullptr && bar != nullptr && bar < sign && line[std::strspn(line, " \t")] != '#') {
-        return {"a number sign makes the whole line a comment: put the note on a line of its own"};
+        return {"a number sign makes the whole line a comment, so it is no record: put the note on "
+                "a line of its own"};
     }
     return {};
 }
 
-std::string read_whole(const TextFile& file) {
-    std::string text;
-    char block[4096];
-    while (const std::size_t count = std::fread(block, 1, sizeof block, file.get())) {
-        text.append(block, count);
+// The lines of the file with their line ends.
+std::vector<std::string> read_lines(const TextFile& file) {
+    std::vector<std::string> lines;
+    bool line_begins = true;
+    for (int c = 0; (c = std::getc(file.get())) != EOF; line_begins = c == '\n') {
+        if (line_begins) {
+            lines.emplace_back();
+        }
+        lines.back() += static_cast<char>(c);
     }
-    return text;
+    return lines;
 }
 
 } // namespace
 
-ConditionsNotes examine_conditions(const char* path) {
-    ConditionsNotes notes;
+bool examine_conditions(const char* path, Notes& notes) {
     const TextFile file = open_text_file(path);
     if (file == nullptr) {
-        return {{{format("%s: can't be opened: write it, see FC_HBA_Conditions.txt(5)", path)}},
-                false};
+        add_note(notes,
+                 format("%s: can't be opened: write it, see FC_HBA_Conditions.txt(5)", path));
+        return true;
     }
-    const std::string text = read_whole(file);
-    std::vector<FileMistake> possible(std::begin(file_mistakes), std::end(file_mistakes));
-    int number = 0;
-    for (std::size_t start = 0, end = 0; start < text.size(); start = end) {
-        end = std::min(text.find('\n', start), text.size() - 1) + 1;
-        const std::string line = text.substr(start, end - start);
-        ++number;
-        std::vector<std::string> mistakes;
-        std::erase_if(possible, [&](const FileMistake& mistake) {
-            const bool found = mistake.is_in(line);
-            if (found) {
-                mistakes.emplace_back(mistake.text);
+    const std::vector<std::string> lines = read_lines(file);
+    const auto note = [&](std::size_t index, const std::string& mistake) {
+        add_note(notes, format("%s:%zu: %s", path, index + 1, mistake.c_str()));
+    };
+    for (const FileMistake& mistake : file_mistakes) {
+        const auto first = std::ranges::find_if(lines, mistake.is_in);
+        if (first != lines.end()) {
+            note(static_cast<std::size_t>(first - lines.begin()), mistake.text);
+        }
+    }
+    bool usable = true;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        for (std::size_t piece = 0; piece < lines[i].size(); piece += piece_length) {
+            const std::string text = lines[i].substr(piece, piece_length);
+            for (const std::string& mistake : examine_line(text.c_str(), usable)) {
+                note(i, mistake);
             }
-            return found;
-        });
-        for (std::size_t piece = 0; piece < line.size(); piece += piece_length) {
-            const auto found = examine_line(line.substr(piece, piece_length).c_str(), notes.usable);
-            mistakes.insert(mistakes.end(), found.begin(), found.end());
-        }
-        for (const std::string& mistake : mistakes) {
-            notes.notes.push_back({format("%s:%d: %s", path, number, mistake.c_str())});
         }
     }
-    return notes;
+    return usable;
 }

@@ -3,10 +3,6 @@
 
 #include "lscna/notes.h"
 
-struct ConditionsNotes {
-    Notes notes;        // "FILE:LINE: text", in the order of the file
-    bool usable = true; // false: cnatool refuses the file
-};
-
-// Looks through the file at `path`; one that can't be opened is a mistake, too.
-ConditionsNotes examine_conditions(const char* path);
+// Notes the mistakes of the file at `path` as "FILE:LINE: text"; one that can't be opened is a
+// mistake, too. Returns false for a file that cnatool refuses.
+bool examine_conditions(const char* path, Notes& notes);

@@ -62,3 +62,11 @@ std::string json_list(const std::vector<std::string>& texts) {
     }
     return "[" + list + "]";
 }
+
+std::string json_object(const std::vector<JsonMember>& members) {
+    std::string object;
+    for (const auto& [key, value] : members) {
+        object += (object.empty() ? "" : ", ") + json_text(key) + ": " + value;
+    }
+    return "{ " + object + " }";
+}

@@ -1,29 +1,35 @@
 #include "lscna/listing.h"
 
+#include "conditions/conditions.h"
+#include "inventory/hba_info.h"
 #include "lscna/format.h"
 #include "lscna/json_text.h"
+#include "lscna/notes.h"
 #include "run/base/settings.h"
 
 #include <algorithm>
-#include <array>
+#include <cstddef>
 #include <cstdio>
-#include <iterator>
+#include <optional>
+#include <string_view>
+#include <vector>
 
 namespace {
 
-// A column: its value as text (empty: unknown, or there is none) and, unless that is a string of
-// the same text, as JSON.
+// A column of the screen, a key of the JSON object, or both. An empty text is unknown or not there.
 struct Column {
     const char* title; // empty: the screen does not show it
+    const char* key;   // empty: the JSON object does not have it
     bool right;
-    const char* key;
+    bool is_string; // in the JSON object; else the text is JSON as it stands
     std::string (*text)(const SurveyedPort&);
-    std::string (*json)(const SurveyedPort&);
-    const char* meaning;
+    const char* meaning = "";
 };
 
 constexpr bool left = false;
 constexpr bool right = true;
+constexpr bool quoted = true;
+constexpr bool as_it_is = false;
 
 template <auto Member>
 std::string field(const SurveyedPort& surveyed) {
@@ -55,54 +61,43 @@ std::string storage_of(const SurveyedPort& surveyed) {
 
 std::string json_storage(const SurveyedPort& surveyed) {
     const target_mapping_entry* const storage = surveyed.port->target_mapping;
-    return storage == nullptr ? "null"
-                              : "{ \"vendor\": " + json_text(storage->vendor_id) +
-                                    ", \"product\": " + json_text(storage->product_id) +
-                                    ", \"version\": " + json_text(storage->product_version) + " }";
+    return storage == nullptr ? ""
+                              : json_object({{"vendor", json_text(storage->vendor_id)},
+                                             {"product", json_text(storage->product_id)},
+                                             {"version", json_text(storage->product_version)}});
 }
 
-std::string json_number(int number) {
-    return number == 0 ? "null" : std::to_string(number);
+template <auto Number>
+std::string of_record(const SurveyedPort& surveyed) {
+    return surveyed.record == nullptr ? "" : std::to_string(surveyed.record->*Number);
 }
 
-std::string record_of(const SurveyedPort& surveyed) {
-    return surveyed.record == 0 ? "" : std::to_string(surveyed.record);
+template <auto Member>
+std::string finding(const SurveyedPort& surveyed) {
+    return surveyed.*Member;
 }
 
-std::string json_record(const SurveyedPort& surveyed) {
-    return json_number(surveyed.record);
-}
-
-std::string json_line(const SurveyedPort& surveyed) {
-    return json_number(surveyed.record == 0 ? 0 : record_at(surveyed.record).line);
-}
-
-std::string verdict_of(const SurveyedPort& surveyed) {
-    constexpr std::array names = {"",           "allowed",    "not allowed",
-                                  "no storage", "not judged", "not known"};
-    return names.at(static_cast<std::size_t>(surveyed.verdict));
-}
-
-std::string reason_of(const SurveyedPort& surveyed) {
-    return surveyed.reason;
-}
+using Record = fc_config_file_entry;
 
 constexpr Column columns[] = {
-    {"ADAPTER", left, "adapter", field<&hba_info::serial_no>, nullptr, "serial number"},
-    {"FN", right, "fn", field<&hba_info::pci_function>, nullptr, "PCI function"},
-    {"PORT", right, "port", field<&hba_info::port_number>, nullptr, "port number on the adapter"},
-    {"TYPE", left, "type", field<&hba_info::port_type>, nullptr, "port type"},
-    {"MODEL", left, "model", field<&hba_info::model>, nullptr, "model of the adapter"},
-    {"", left, "wwn", field<&hba_info::port_wwn>, nullptr, ""},
-    {"", left, "mac", field<&hba_info::permanent_mac>, nullptr, ""},
-    {"", left, "bus", field<&hba_info::pci_bus_number>, nullptr, ""},
-    {"PCI-ID", left, "pci-id", pci_id_of, nullptr, "the four ids, as -pci-id takes them"},
-    {"FIRMWARE", left, "firmware", firmware_of, nullptr, "version of the firmware"},
-    {"STORAGE", left, "storage", storage_of, json_storage, "vendor and product that it sees"},
-    {"RECORD", right, "record", record_of, json_record, "record of the conditions file for it"},
-    {"", right, "line", nullptr, json_line, ""},
-    {"VERDICT", left, "verdict", verdict_of, nullptr, "what a check says of an FCoE port"},
-    {"", left, "reason", reason_of, nullptr, ""},
+    {"ADAPTER", "adapter", left, quoted, field<&hba_info::serial_no>, "serial number"},
+    {"FN", "fn", right, quoted, field<&hba_info::pci_function>, "PCI function"},
+    {"PORT", "port", right, quoted, field<&hba_info::port_number>, "port number on the adapter"},
+    {"TYPE", "type", left, quoted, field<&hba_info::port_type>, "port type"},
+    {"MODEL", "model", left, quoted, field<&hba_info::model>, "model of the adapter"},
+    {"PCI-ID", "pci-id", left, quoted, pci_id_of, "the four ids, as -pci-id takes them"},
+    {"", "wwn", left, quoted, field<&hba_info::port_wwn>},
+    {"", "mac", left, quoted, field<&hba_info::permanent_mac>},
+    {"", "bus", left, quoted, field<&hba_info::pci_bus_number>},
+    {"FIRMWARE", "firmware", left, quoted, firmware_of, "version of the firmware"},
+    {"STORAGE", "", left, quoted, storage_of, "vendor and product that it sees"},
+    {"", "storage", left, as_it_is, json_storage},
+    {"RECORD", "record", right, as_it_is, of_record<&Record::number>,
+     "record of the conditions file"},
+    {"", "line", right, as_it_is, of_record<&Record::line>},
+    {"VERDICT", "verdict", left, quoted, finding<&SurveyedPort::verdict>,
+     "what a check says of an FCoE port"},
+    {"", "reason", left, quoted, finding<&SurveyedPort::reason>},
 };
 
 // A text for a terminal, which other bytes could change.
@@ -153,20 +148,14 @@ void print_flashes(const std::vector<SurveyedFlash>& flashes) {
             (flash.bios && flash.bios->files.empty())) {
             continue;
         }
-        const std::string bios =
-            flash.bios ? ", then BIOS " + below_directory(flash.bios->files.front()) : "";
-        std::printf("%s  %s, function %s, record %d: %s%s\n", title,
-                    shown(flash.port->serial_no).c_str(), shown(flash.port->pci_function).c_str(),
-                    flash.record, shown(below_directory(flash.firmware->files.front())).c_str(),
-                    bios.empty() ? "" : shown(bios).c_str());
+        const std::string line =
+            format("%s, function %s, record %d: %s", shown(flash.port->serial_no).c_str(),
+                   flash.port->pci_function, flash.record->number,
+                   below_directory(flash.firmware->files.front()).c_str()) +
+            (flash.bios ? ", then BIOS " + below_directory(flash.bios->files.front()) : "");
+        std::printf("%s  %s\n", title, shown(line).c_str());
         title = "";
     }
-}
-
-std::string json_image(const std::optional<SurveyedImage>& image) {
-    return image ? "{ \"pattern\": " + json_text(image->pattern) +
-                       ", \"files\": " + json_list(image->files) + " }"
-                 : "null";
 }
 
 // Prints the items of a list, a line each.
@@ -183,26 +172,36 @@ void print_json_list(const char* key, const std::vector<Item>& items,
 }
 
 std::string json_port(const SurveyedPort& port) {
-    std::string json;
+    std::vector<JsonMember> members;
     for (const Column& column : columns) {
-        json += (json.empty() ? "{ \"" : ", \"") + std::string(column.key) + "\": " +
-                (column.json == nullptr ? json_text(column.text(port)) : column.json(port));
+        const std::string text = column.text(port);
+        if (*column.key != '\0') {
+            const bool is_string = column.is_string || text.empty();
+            members.emplace_back(column.key, is_string ? json_text(text) : text);
+        }
     }
-    return json + " }";
+    return json_object(members);
+}
+
+std::string json_image(const std::optional<SurveyedImage>& image) {
+    return image ? json_object(
+                       {{"pattern", json_text(image->pattern)}, {"files", json_list(image->files)}})
+                 : "null";
 }
 
 std::string json_flash(const SurveyedFlash& flash) {
-    return "{ \"adapter\": " + json_text(flash.port->serial_no) +
-           ", \"fn\": " + json_text(flash.port->pci_function) +
-           ", \"record\": " + json_number(flash.record) +
-           ", \"firmware\": " + json_image(flash.firmware) +
-           ", \"bios\": " + json_image(flash.bios) + " }";
+    return json_object(
+        {{"adapter", json_text(flash.port->serial_no)},
+         {"fn", json_text(flash.port->pci_function)},
+         {"record", flash.record == nullptr ? "null" : std::to_string(flash.record->number)},
+         {"firmware", json_image(flash.firmware)},
+         {"bios", json_image(flash.bios)}});
 }
 
 std::string json_note(const Note& note) {
-    return "{ \"adapter\": " + json_text(note.adapter) +
-           ", \"functions\": " + json_list(note.functions) + ", \"text\": " + json_text(note.text) +
-           " }";
+    return json_object({{"adapter", json_text(note.adapter)},
+                        {"functions", json_list(note.functions)},
+                        {"text", json_text(note.text)}});
 }
 
 } // namespace
@@ -227,9 +226,10 @@ void print_screen(const Survey& survey) {
     const char* title = "\nTo look at:\n";
     for (const Note& note : survey.notes) {
         const std::string line =
-            note.adapter.empty()
+            note.functions.empty()
                 ? note.text
-                : note.adapter + (note.functions.size() > 1 ? ", functions " : ", function ") +
+                : shown(note.adapter) +
+                      (note.functions.size() > 1 ? ", functions " : ", function ") +
                       join(note.functions) + ": " + note.text;
         std::printf("%s  %s\n", title, shown(line).c_str());
         title = "";

@@ -2,17 +2,23 @@
 
 #include "classify/classify.h"
 #include "classify/pairing.h"
+#include "conditions/conditions.h"
 #include "conditions/conditions_file.h"
+#include "flash/image_search.h"
+#include "inventory/hba_info.h"
 #include "inventory/inventory.h"
 #include "inventory/report.h"
+#include "inventory/vendor_cli.h"
 #include "lscna/conditions_notes.h"
 #include "lscna/format.h"
 #include "lscna/listing.h"
+#include "lscna/notes.h"
 #include "lscna/survey.h"
 #include "run/base/diagnostics.h"
 #include "run/base/end_run.h"
 #include "run/base/environment.h"
 #include "run/base/return_codes.h"
+#include "run/base/selection.h"
 #include "run/base/settings.h"
 #include "run/base/terminal_line.h"
 #include "run/directories.h"
@@ -137,99 +143,97 @@ std::string read_list(const char* list, const option_input*& selection) {
 }
 
 // Notes what the reader of the list passes over: groups after the first empty one.
-void look_at_list(const char* list, Notes& notes) {
+void note_list(const char* list, Notes& notes) {
     const std::string groups = format(",%s", list);
     const std::size_t unread = groups.find_first_not_of(',', groups.find(",,"));
     if (unread != std::string::npos) {
-        notes.push_back({format("--pci-id: '%s' is not read: remove the empty group before it",
-                                groups.c_str() + unread)});
+        add_note(notes, format("--pci-id: '%s' is not read: remove the empty group before it",
+                               groups.c_str() + unread));
     }
 }
 
 // Reads the conditions file, unless cnatool would refuse it. Returns why it is not used.
 std::string read_conditions(Notes& notes) {
-    const ConditionsNotes found = examine_conditions(pHBAConditionsPath);
-    notes.insert(notes.end(), found.notes.begin(), found.notes.end());
-    if (found.usable && Read_FC_Config_File(pHBAConditionsPath) == RET_OK) {
-        if (fc_config_entry_list == nullptr) {
-            notes.push_back(
-                {format("%s: no record, so nothing is judged or flashed", pHBAConditionsPath)});
-        }
-        return "";
-    }
-    if (found.usable) {
-        notes.push_back(
-            {format("%s: can't be read to its end: cnatool refuses it", pHBAConditionsPath)});
+    const char* const path = pHBAConditionsPath;
+    const bool usable = examine_conditions(path, notes);
+    if (!usable || Read_FC_Config_File(path) == RET_FATAL_ERROR) {
         release_config_entry_list();
+        std::string refused =
+            format("%s: cnatool refuses the file with 55, so it is not used: correct it", path);
+        add_note(notes, refused);
+        return refused;
     }
-    return "the conditions file can't be used";
+    if (all_conditions().empty()) {
+        add_note(notes, format("%s: no record, so nothing is judged or flashed", path));
+    }
+    return "";
 }
 
 // Why there is no list of ports.
-const char* no_list_reason(std::int32_t result) {
+std::string no_list_reason(std::int32_t result) {
+    const std::string list = report_path("local_hba_list.out");
     switch (result) {
     case cli_in_use:
         return "another run uses the vendor's CLI";
     case RET_SCLI_NOT_INSTALLED:
-        return "the vendor's CLI is not installed";
+        return format("the vendor's CLI, %s, is not installed", hbacmd_path);
     case RET_FATAL_ERROR:
-        return "the CLI's command listhbas failed";
+        return "the CLI's command listhbas failed: see what it says in " + list;
     case report_not_opened:
-        return "the list of ports, local_hba_list.out, can't be read";
+        return format("the list of ports, %s, can't be read", list.c_str());
     default:
-        return "the list of ports names no port";
+        return format("the list of ports, %s, names no port", list.c_str());
     }
 }
 
-// What is listed, and the status that goes with it.
+// Settles what the call names. Returns why it is refused.
+std::string prepare(const Call& call, const char* typed_program, const option_input*& selection) {
+    if (!call.error.empty()) {
+        return call.error;
+    }
+    const std::string error = attempt("the directory of the program can't be used",
+                                      [=] { resolve_directories(typed_program); });
+    if (error.empty() && !path_exists(pHBAWorkingPath)) {
+        return format("there is no directory %s", pHBAWorkingPath);
+    }
+    return error.empty() && call.list != nullptr ? read_list(call.list, selection) : error;
+}
+
+// Lists the ports, unless that can't be done.
 Answer list_ports(const Call& call, const char* typed_program) {
-    Answer answer{status_no_listing, call.error};
-    std::string& error = answer.error;
     const option_input* selection = nullptr;
-    if (error.empty()) {
-        error = attempt("the directory of the program can't be used",
-                        [=] { resolve_directories(typed_program); });
+    if (const std::string error = prepare(call, typed_program, selection); !error.empty()) {
+        return {status_no_listing, error};
     }
-    if (error.empty() && call.list != nullptr) {
-        error = read_list(call.list, selection);
-    }
-    if (!error.empty()) {
-        return answer;
-    }
-    Notes notes;
+    Survey survey;
     if (call.list != nullptr) {
-        look_at_list(call.list, notes);
+        note_list(call.list, survey.notes);
     }
     CommonCauses causes;
-    causes.conditions_unusable = read_conditions(notes);
+    causes.conditions_refused = read_conditions(survey.notes);
     std::int32_t result = RET_OK;
-    error = attempt("a report holds a number of more than 64 bits",
-                    [&] { result = Get_All_Hba_Info(); });
-    if (error.empty() && p_hba_info_list == nullptr) {
-        error = no_list_reason(result);
-        answer.status = result == RET_NO_FC_CTRL_INSTALLED || result == RET_OK ? status_no_port
-                                                                               : status_no_listing;
+    if (const std::string error = attempt("a report holds a number of more than 64 bits",
+                                          [&] { result = Get_All_Hba_Info(); });
+        !error.empty()) {
+        return {status_no_listing, error};
     }
-    if (!error.empty()) {
-        return answer;
+    if (p_hba_info_list == nullptr) {
+        return {result == RET_NO_FC_CTRL_INSTALLED ? status_no_port : status_no_listing,
+                no_list_reason(result)};
     }
     if (result == report_not_opened) {
         causes.inventory_ended =
             format("the inventory ended at %s, which can't be read: later reports are not known, "
                    "and a check passes what they would show",
                    unread_report.c_str());
-        notes.push_back({causes.inventory_ended});
+        add_note(survey.notes, causes.inventory_ended);
     }
-    const auto fibre_channel_ports = std::ranges::count_if(
-        all_ports(), [](const hba_info* port) { return has_type(*port, "FC"); });
+    survey.fibre_channel_ports = static_cast<int>(std::ranges::count_if(
+        all_ports(), [](const hba_info* port) { return has_type(*port, "FC"); }));
     Classify_Ctrl_List();
     Determine_Flash_Ports();
-    answer.survey = survey_ports(selection, causes);
-    answer.survey.fibre_channel_ports = static_cast<int>(fibre_channel_ports);
-    notes.insert(notes.end(), answer.survey.notes.begin(), answer.survey.notes.end());
-    answer.survey.notes = notes;
-    answer.status = notes.empty() ? status_all_well : status_look;
-    return answer;
+    survey_ports(selection, causes, survey);
+    return {survey.notes.empty() ? status_all_well : status_look, "", survey};
 }
 
 // Prints what the call asks for. Returns the status.

@@ -2,17 +2,20 @@
 
 #include <algorithm>
 
+void add_note(Notes& notes, const std::string& text) {
+    if (std::ranges::none_of(notes, [&](const Note& note) { return note.text == text; })) {
+        notes.push_back({text});
+    }
+}
+
 void add_note(Notes& notes, const hba_info& port, const std::string& text) {
-    if (text.empty()) {
-        return;
-    }
     auto note = std::ranges::find_if(notes, [&](const Note& other) {
-        return other.text == text && other.adapter == port.serial_no;
+        return other.text == text && (other.functions.empty() || other.adapter == port.serial_no);
     });
-    if (note == notes.end()) {
-        note = notes.insert(note, {text, port.serial_no});
-    }
-    if (note->functions.empty() || note->functions.back() != port.pci_function) {
+    if (note == notes.end() && !text.empty()) {
+        notes.push_back({text, port.serial_no, {port.pci_function}});
+    } else if (note != notes.end() && !note->functions.empty() &&
+               note->functions.back() != port.pci_function) {
         note->functions.emplace_back(port.pci_function);
     }
 }

@@ -6,15 +6,18 @@
 #include <string>
 #include <vector>
 
-// A cause and what to do. The adapter's serial number is empty where it is about none.
+// A cause, and what to do.
 struct Note {
     std::string text;
-    std::string adapter{};
-    std::vector<std::string> functions{}; // of the adapter, those that it is about
+    std::string adapter{};                // its serial number
+    std::vector<std::string> functions{}; // of the adapter; none: it is about no adapter
 };
 
 using Notes = std::vector<Note>;
 
-// Adds what there is to say of a port, once for all ports of its adapter. An empty text is nothing
-// to say.
+// Adds a note about no adapter, once.
+void add_note(Notes& notes, const std::string& text);
+
+// Adds what there is to say of a port: one note for all ports of its adapter, none where the text
+// is empty or is that of a note about no adapter.
 void add_note(Notes& notes, const hba_info& port, const std::string& text);

@@ -5,22 +5,17 @@
 #include "conditions/conditions.h"
 #include "inventory/hba_info.h"
 #include "lscna/notes.h"
-#include "lscna/reasons.h"
 #include "run/base/selection.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
-// What a check says of an FCoE port; of any other port it says nothing.
-enum class Verdict : std::uint8_t { none, allowed, not_allowed, no_storage, not_judged, not_known };
-
 struct SurveyedPort {
     const hba_info* port;
-    int record = 0; // the first with the port's four ids, manufacturer and model; 0: there is none
-    Verdict verdict = Verdict::none;
-    std::string reason{}; // of the verdict; empty: it needs none
+    const fc_config_file_entry* record; // the first with its four ids, manufacturer and model
+    std::string verdict{};              // what a check says of an FCoE port; of others nothing
+    std::string reason{};               // of the verdict; empty: it needs none
 };
 
 // An image name of a record, and the paths of the files that match it. A flash takes the first.
@@ -33,18 +28,28 @@ struct SurveyedImage {
 // A flash port.
 struct SurveyedFlash {
     const hba_info* port;
-    int record = 0; // the first with the port's four ids; 0: there is none, nothing is flashed
+    const fc_config_file_entry* record; // the first with its four ids; null: nothing is flashed
     std::optional<SurveyedImage> firmware{};
     std::optional<SurveyedImage> bios{};
 };
 
 struct Survey {
-    std::vector<SurveyedPort> ports; // in the order in which a check walks them
+    std::vector<SurveyedPort> ports; // in the order in which cnatool goes through all ports
     std::vector<SurveyedFlash> flashes;
     Notes notes;
     int fibre_channel_ports = 0; // are left alone
 };
 
+// What ports have in common that are not known, or not judged; empty when there is no such cause.
+// It has been noted already.
+struct CommonCauses {
+    std::string inventory_ended;
+    std::string conditions_refused;
+};
+
+// The port's four PCI ids as -pci-id takes them; empty when one of them is not known.
+std::string pci_id(const hba_info& port);
+
 // Surveys the ports that the inventory has found, ordered and paired. `selection` (null: every
-// port) names the ports to list. The common causes become reasons, but not notes of each port.
-Survey survey_ports(const option_input* selection, const CommonCauses& causes);
+// port) names the ports to list.
+void survey_ports(const option_input* selection, const CommonCauses& causes, Survey& survey);

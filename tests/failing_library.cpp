@@ -5,7 +5,7 @@
 #include <new>
 
 void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
-    return memory_is_exhausted ? nullptr : ::operator new(size);
+    return records_left-- == 0 ? nullptr : ::operator new(size);
 }
 extern "C" int ferror(std::FILE* /*file*/) noexcept {
     return reading_fails ? 1 : 0;

@@ -7,16 +7,21 @@
 #include "inventory/report.h"
 #include "inventory/target_mapping.h"
 #include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
 #include "run/base/settings.h"
+#include "run/base/shell_command.h"
 #include "run/driver.h"
+#include "run/help.h"
 #include "tests/failing_library.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -114,23 +119,73 @@ TEST_F(Reports, WhatWasReadBeforeAReadErrorStays) {
     EXPECT_NE(p_hba_info_list, nullptr);
 }
 
-// For the record of a selection, and for that of a condition.
+// For the record of a selection, of a condition, a subsystem, a port, its attributes and its
+// target mapping. The example has eleven ports.
 TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
-    for (const int count : {5, 3}) {
-        const auto run = [=] {
-            std::string words[] = {"./cnatool", "--conpath", "examples/blade", "-pci-id", "1:2"};
+    for (const auto& [records, message] :
+         {std::pair{0, ""},
+          {1, "Could not allocate memory for new fc_config_file entry.\n"},
+          {2, "Could not allocate memory for new fc_periphery_info.\n"},
+          {10, ""},
+          {10 + 11, ""},
+          {10 + 11 + 11, ""}}) {
+        const auto run = [count = records] {
+            std::string words[] = {"./cnatool",      "--simulate", "--conpath",
+                                   "examples/blade", "-pci-id",    "1:2"};
             char* argv[std::size(words)];
             std::transform(std::begin(words), std::end(words), argv,
                            [](auto& word) { return word.data(); });
             dup2(STDERR_FILENO, STDOUT_FILENO);
-            memory_is_exhausted = true;
-            std::exit(run_tool(count, argv));
+            records_left = count;
+            std::exit(run_tool(std::size(words), argv));
         };
         EXPECT_EXIT(run(), testing::ExitedWithCode(54),
-                    "^(Could not allocate memory for new fc_config_file entry.\n)?"
-                    "Error: cnatool, Memory allocation failed!\n$")
-            << count;
+                    std::string("^") + message + "Error: cnatool, Memory allocation failed!\n$")
+            << records;
     }
+}
+
+TEST(Run, PrintedStatusesAreThoseOfTheEnumeration) {
+    std::ostringstream wanted;
+    wanted << "\nList of possible return codes\n\n   Valid return codes\n\n";
+#define STATUS(code) std::make_pair(#code, code)
+    for (const auto& [name, number] :
+         {STATUS(RET_OK), STATUS(RET_NOT_CTRL_WIDE_IDENTICAL),
+          STATUS(RET_NOT_CTRL_VENDOR_WIDE_IDENTICAL), STATUS(RET_BAD_CALL),
+          STATUS(RET_INVALID_CTRL_SUBSYSTEM_COMBINATION), STATUS(RET_FLASH_ERROR),
+          STATUS(RET_NO_FC_HBA_CONDITIONS_ENTRY), STATUS(RET_NO_MATCHING_CTRL_FOUND),
+          STATUS(RET_NO_FC_CTRL_INSTALLED), STATUS(RET_FC_HBA_CONDITIONS_MISSING),
+          STATUS(RET_INFOFILE_MISSING), STATUS(RET_FW_NOT_AVAILABLE),
+          STATUS(RET_SCLI_NOT_INSTALLED), STATUS(RET_KERNEL_MODULE_MISSING),
+          STATUS(RET_MEMALLOC_FAIL), STATUS(RET_FATAL_ERROR)}) {
+        wanted << "   " << std::left << std::setw(39) << name << std::right << std::setw(3)
+               << number << "\n";
+    }
+#undef STATUS
+    VerboseLevel = 1;
+    testing::internal::CaptureStdout();
+    print_return_codes("");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), wanted.str() + "\n");
+}
+
+TEST(Shell, GetsEveryCharacterAsItIs) {
+    EXPECT_EQ(shell_word("aZ09%+,-./:=@_"), "aZ09%+,-./:=@_");
+    std::string command = "printf '%s\\n'";
+    std::string values;
+    for (int byte = 1; byte <= 255; ++byte) {
+        const std::string text(1, static_cast<char>(byte));
+        // "/tm" and a wildcard would become "/tmp".
+        for (const std::string& value : {text, "/tm" + text, text + "0"}) {
+            command += " " + shell_word(value);
+            values += value + "\n";
+        }
+    }
+    // NOLINTNEXTLINE(cert-env33-c): the shell is what this is about.
+    std::FILE* const shell = popen(command.c_str(), "r");
+    std::string came(values.size() + 1, '\0');
+    came.resize(std::fread(came.data(), 1, came.size(), shell));
+    pclose(shell);
+    EXPECT_EQ(came, values);
 }
 
 // Makes the list of ports, each written as its serial number ("?" is missing), the

@@ -26,14 +26,12 @@ void check_port(const option_input& entry, const hba_info& port, global_ctrl_fla
         return;
     }
     flags.MatchingCtrlModelInstalled = 1;
-    int number = 0;
     for (const fc_config_file_entry* record : all_conditions()) {
-        ++number;
         if (!describes(*record, port, named_ids(entry))) {
             continue;
         }
         if (any_level_above(5)) {
-            print_record(*record, number);
+            print_record(*record);
         }
         DoSubSystemCheck(port, *record, flags);
     }

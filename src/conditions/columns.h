@@ -13,8 +13,8 @@ struct ConditionsColumn {
     const char* name;
     TextField<fc_config_file_entry> field;
     int width;
-    // The name in the refusal of a value that is no number or, of a text that selects, is too long.
-    // Without it a long value is cut.
+    // What a refusal calls the column: of an identifier that is no number, or of another text that
+    // is too long. Null: a long text is cut.
     const char* refused_name = nullptr;
     std::int32_t fc_config_file_entry::*number = nullptr;
 };

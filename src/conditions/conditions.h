@@ -5,6 +5,7 @@
 #include "run/base/record_list.h"
 
 #include <cstdint>
+#include <span>
 
 // A storage subsystem that a controller may see.
 struct periphery_info_entry {

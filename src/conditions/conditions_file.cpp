@@ -51,13 +51,11 @@ bool fits(const char* value, std::size_t length_max, const char* refused_name,
 
 std::int32_t store_controller_column(char* value, const DataLine& line) {
     const ConditionsColumn& column = conditions_columns[line.column];
-    if (column.number == nullptr &&
-        !fits(value, column.field.length_max, column.refused_name, line)) {
-        return RET_FATAL_ERROR;
-    }
     copy_text(column.field.of(*line.entry), value);
     if (column.number != nullptr) {
         store_identifier(column, value, line);
+    } else if (!fits(value, column.field.length_max, column.refused_name, line)) {
+        return RET_FATAL_ERROR;
     }
     message(5, " %*s |", column.width, value);
     return RET_OK;

@@ -33,9 +33,9 @@ bool is_for_model(const fc_config_file_entry& record, const hba_info& port) {
     return begins_with(port.mfg, record.vendor) && begins_with(port.model, record.model);
 }
 
-void print_record(const fc_config_file_entry& record, int number) {
+void print_record(const fc_config_file_entry& record) {
     message(2, "\tFC_HBA_Conditions.txt:\n");
-    message(2, "\tFound a matching controller-device in line %d:\n", number);
+    message(2, "\tFound a matching controller-device in line %d:\n", record.number);
     message(2, "\t\tvendor-id: %s, device-id: %s\n", record.vendor_id_str, record.device_id_str);
     message(2, "\t\tsubvendor-id: %s, subdevice-id: %s\n", record.subvendor_id_str,
             record.subdevice_id_str);

@@ -24,5 +24,5 @@ bool describes(const fc_config_file_entry& record, const hba_info& port, Ids ids
 // Whether the record is for the port's manufacturer and model, which begin with the record's.
 bool is_for_model(const fc_config_file_entry& record, const hba_info& port);
 
-// Shows a matching record at level 2. `number` counts from 1 over all records.
-void print_record(const fc_config_file_entry& record, int number);
+// Shows a matching record at level 2.
+void print_record(const fc_config_file_entry& record);

@@ -25,13 +25,13 @@ constexpr ImageKind firmware = {"firmware", "Firmware"};
 constexpr ImageKind bios = {"BIOS", "BIOS"};
 
 // Shows where the images are looked for.
-void print_image_directory(const hba_info& port) {
-    const std::string own = model_directory(port);
-    const bool usable = has_model_directory(port);
-    if (!usable) {
+void print_image_directory(const hba_info& port, const std::string& directory) {
+    const std::string own = std::string(pHBAFirmwarePath) + port.model;
+    const bool common = directory == pHBAFirmwarePath;
+    if (common && directory != own) {
         message(1, "\t\tFirmware directory is not available: %s\n\n", own.c_str());
     }
-    message(1, "\tFirmware path: %s\n", usable ? own.c_str() : pHBAFirmwarePath);
+    message(1, "\tFirmware path: %s\n", common ? directory.c_str() : own.c_str());
 }
 
 // Makes sure that an image is there before anything is written.
@@ -94,7 +94,7 @@ std::int32_t flash_adapter(const hba_info& port, const fc_config_file_entry& rec
         return RET_FW_NOT_AVAILABLE;
     }
     const std::string directory = image_directory(port);
-    print_image_directory(port);
+    print_image_directory(port, directory);
     const bool with_bios = record.bios_image[0] != '\0';
     std::int32_t result = look_for_image(firmware, directory, record.firmware_image);
     if (result == RET_OK && with_bios) {

@@ -26,9 +26,7 @@ std::int32_t flash_port(const option_input& entry, hba_info& port, global_ctrl_f
         return RET_OK;
     }
     flags.MatchingCtrlModelInstalled = 1;
-    int number = 0;
     for (const fc_config_file_entry* record : all_conditions()) {
-        ++number;
         // The images of another PCI subsystem of the same device could brick the adapter, so all
         // four identifiers count here, whatever the entry names.
         if (!describes(*record, port, Ids::four)) {
@@ -36,7 +34,7 @@ std::int32_t flash_port(const option_input& entry, hba_info& port, global_ctrl_f
         }
         if (any_level_above(5)) {
             message(2, "\t%s\n\n", divider);
-            print_record(*record, number);
+            print_record(*record);
         }
         const std::int32_t result = FlashBladeEngine(port, *record, flags);
         if (result != RET_OK) {

@@ -3,9 +3,11 @@
 #include "run/base/return_codes.h"
 #include "run/base/text.h"
 
+#include <cerrno>
 #include <cstddef>
 #include <dirent.h>
 #include <memory>
+#include <new>
 #include <sys/stat.h>
 
 namespace {
@@ -33,25 +35,23 @@ bool path_exists(const std::string& path) {
     return stat(path.c_str(), &status) == 0;
 }
 
-std::string model_directory(const hba_info& port) {
-    return std::string(pHBAFirmwarePath) + port.model;
-}
-
-bool has_model_directory(const hba_info& port) {
-    const std::string_view model = port.model;
-    const bool inside = model.find('/') == std::string_view::npos && model != "." && model != "..";
-    return inside && path_exists(model_directory(port));
-}
-
 std::string image_directory(const hba_info& port) {
-    const bool own = port.model[0] != '\0' && has_model_directory(port);
-    return own ? model_directory(port) + "/" : pHBAFirmwarePath;
+    const std::string_view model = port.model;
+    // Text from a report must not lead out of the firmware directory.
+    const bool inside = !model.empty() && model.find('/') == std::string_view::npos &&
+                        model != "." && model != "..";
+    const std::string own = std::string(pHBAFirmwarePath) + port.model;
+    return inside && path_exists(own) ? own + "/" : pHBAFirmwarePath;
 }
 
 std::vector<std::string> matching_images(const std::string& directory, std::string_view pattern) {
     std::vector<std::string> images;
+    errno = 0;
     const Directory entries(pattern.empty() ? nullptr : opendir(directory.c_str()));
     if (entries == nullptr) {
+        if (errno == ENOMEM) {
+            throw std::bad_alloc();
+        }
         return images;
     }
     while (const dirent* const entry = readdir(entries.get())) {

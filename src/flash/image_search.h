@@ -12,12 +12,6 @@
 // Whether there is something at `path`.
 bool path_exists(const std::string& path);
 
-// The directory of a model's own images, without a trailing "/".
-std::string model_directory(const hba_info& port);
-
-// Whether it can be used: it exists, and the model does not lead out of the firmware directory.
-bool has_model_directory(const hba_info& port);
-
 // The directory with a trailing "/" in which the images of the port's adapter are looked for: its
 // model's own or the common one.
 std::string image_directory(const hba_info& port);

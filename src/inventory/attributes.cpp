@@ -79,7 +79,6 @@ const char* port_identifier(const hba_info& port) {
 void begin_record(hba_info& port) {
     // A second title begins the record anew.
     delete port.attributes;
-    port.attributes = nullptr;
     port.attributes = &made(get_new_hba_attributes_entry());
     message(6, "\n\t\t%s %s\n\n", title.data(), port_identifier(port));
 }

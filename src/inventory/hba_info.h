@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <span>
 
 // The values of one port's attributes report. Text fields keep the reported text, cut to their
 // capacity; a label that never appeared leaves its field empty.
@@ -107,8 +108,7 @@ struct hba_info {
     std::int32_t attributes_status;
     std::int32_t mapping_status;
 
-    std::uint8_t mapping_reported; // its target-mapping report was read and has its title
-    std::uint8_t storage_differs;  // the report names storage beside that of target_mapping
+    std::uint8_t mapping_reported; // its target-mapping report was read, and its title names it
 };
 
 // Every port, null-terminated; null as long as no port was found.
@@ -140,6 +140,7 @@ inline bool has_type(const hba_info& port, const char* type) {
     return std::strcmp(port.port_type, type) == 0;
 }
 
+// Whether a port's type begins with "FCoE".
 inline bool is_fcoe(const hba_info& port) {
     return begins_with(port.port_type, "FCoE");
 }

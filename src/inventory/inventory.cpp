@@ -10,6 +10,7 @@
 #include "run/base/return_codes.h"
 
 #include <cstddef>
+#include <span>
 #include <string>
 
 namespace {

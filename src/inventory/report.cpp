@@ -2,13 +2,13 @@
 
 #include "inventory/vendor_cli.h"
 #include "run/base/diagnostics.h"
+#include "run/base/output_file.h"
+#include "run/base/return_codes.h"
 #include "run/base/settings.h"
 #include "run/base/shell_command.h"
 #include "run/base/text_file.h"
 
 #include <cstring>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 namespace {
@@ -24,10 +24,9 @@ bool leads_outside(std::string_view path) {
     return name.find('/') != std::string_view::npos;
 }
 
-// Whether the report holds an earlier run's text: its command was not run, and it was not emptied.
+// Whether the report is an earlier run's: its command was not run, and it can't be emptied.
 bool is_stale(const std::string& path, std::int32_t status) {
-    std::error_code ignored;
-    return status == -1 && !std::filesystem::is_empty(path, ignored);
+    return status == -1 && !prepare_output(path, Output::rewritten);
 }
 
 } // namespace
@@ -50,12 +49,12 @@ std::int32_t make_report(const char* lead, std::initializer_list<std::string_vie
 }
 
 std::int32_t read_report(const std::string& path, std::int32_t status,
-                         const std::function<void(char* line)>& read_line_of_it) {
+                         const std::function<void(char* line)>& take_line) {
     const bool readable = !leads_outside(path) && !is_stale(path, status);
     const TextFile report = readable ? open_text_file(path.c_str()) : TextFile();
     LineBuffer line;
     while (report != nullptr && read_line(report, line)) {
-        read_line_of_it(line);
+        take_line(line);
     }
     if (report == nullptr || read_failed(report)) {
         unread_report = path;

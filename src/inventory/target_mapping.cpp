@@ -16,20 +16,18 @@ using Entry = target_mapping_entry;
 constexpr const char* report_name = "target_mapping.out";
 constexpr std::string_view title = "Target Mapping for";
 
-// A row of the report's table: where the value of such a line goes, and whether it tells one
-// storage subsystem from another.
+// A row of the report's table: where the value of such a line goes.
 struct Label {
     std::string_view text;
     TextField<Entry> field;
-    bool names_storage = false;
 };
 
 constexpr Label labels[] = {
     {"FCP LUN", text_field<&Entry::fcp_lun>},
     {"SCSI OS Lun", text_field<&Entry::scsi_os_lun>},
     {"Lun Device Name", text_field<&Entry::lun_device_name>},
-    {"Vendor ID", text_field<&Entry::vendor_id>, true},
-    {"Product ID", text_field<&Entry::product_id>, true},
+    {"Vendor ID", text_field<&Entry::vendor_id>},
+    {"Product ID", text_field<&Entry::product_id>},
     {"Product Version", text_field<&Entry::product_version>},
     {"Type", text_field<&Entry::type>},
     {"SCSI Capacity", text_field<&Entry::scsi_capacity>},
@@ -40,12 +38,9 @@ constexpr Label labels[] = {
 constexpr int title_lines = 4;
 
 // A line without a colon stores nothing, but shows what the field holds.
-void store_value(const Label& label, char* line, hba_info& port) {
-    const std::span<char> field = label.field.of(*port.target_mapping);
+void store_value(const Label& label, char* line, Entry& mapping) {
+    const std::span<char> field = label.field.of(mapping);
     if (const char* const value = line_value(line)) {
-        if (label.names_storage && field[0] != '\0' && std::strcmp(field.data(), value) != 0) {
-            port.storage_differs = 1;
-        }
         copy_text(field, value);
     }
     message(6, "\t\t\t%s\n", field.data());
@@ -68,7 +63,7 @@ void read_mapping_line(char* line, bool below_title, hba_info& port) {
     }
     const Label* const label = find_label(labels, line);
     if (label != nullptr && port.target_mapping != nullptr) {
-        store_value(*label, line, port);
+        store_value(*label, line, *port.target_mapping);
     }
 }
 

@@ -3,7 +3,6 @@
 #include "run/base/settings.h"
 #include "run/base/terminal_line.h"
 
-#include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -38,8 +37,7 @@ bool take_turn() {
     }
     std::fflush(nullptr);
     const TerminalLine line("waiting for another run");
-    while (flock(descriptor, LOCK_EX) != 0 && errno == EINTR) {
-    }
+    flock(descriptor, LOCK_EX);
     return true;
 }
 

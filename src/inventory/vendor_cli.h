@@ -4,7 +4,6 @@
 #include "run/base/shell_command.h"
 
 #include <initializer_list>
-#include <string>
 #include <string_view>
 
 // The fixed path of the CLI; it is never looked for elsewhere.

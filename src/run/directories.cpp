@@ -36,8 +36,8 @@ void append(std::span<char> path, std::string_view text) {
 
 void set_directories(const char* directory) {
     if (std::strlen(directory) > directory_length_max) {
-        message(1, "\n\nPath '%s' is too long (at most %d characters)!\n\n", directory,
-                static_cast<int>(directory_length_max));
+        message(1, "\n\nPath '%s' is too long (at most %zu characters)!\n\n", directory,
+                directory_length_max);
         end_run(RET_BAD_CALL);
     }
     copy_text(pHBAConditionsPath, directory);

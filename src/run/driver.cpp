@@ -157,7 +157,7 @@ void reset_results(global_ctrl_flags& flags) {
 // Returns the exit status of a run that comes to its end.
 std::int32_t run(const char* typed_program, const char* program_name, Words words) {
     const option_input* const selection = read_command_line(program_name, words);
-    terminal_lines_enabled = PrintDebugOnScreen != 0 && VerboseLevel != 0;
+    terminal_lines_enabled = VerboseLevel != 0;
 
     resolve_temporary_directory();
     resolve_directories(typed_program);

@@ -19,5 +19,6 @@ void silence();
 void normalize_words(Words words);
 
 // Sets the levels from the verbose, debug and silent words. A bad level ends the run with
-// RET_BAD_CALL, silently if any word says --silent; so do both levels together, never silently.
+// RET_BAD_CALL; whether that is shown the levels decide that were set before it, which any word
+// with --silent has set to 0 at first. Both levels together are refused and always shown.
 void read_levels(Words words);

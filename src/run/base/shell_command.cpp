@@ -3,7 +3,6 @@
 #include "run/base/settings.h"
 #include "run/base/terminal_line.h"
 
-#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <sys/types.h>
@@ -24,7 +23,7 @@ constexpr int ignored_under_hold[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGXCPU}
 // In the child: becomes the shell.
 [[noreturn]] void become_shell(const char* text, const SignalHold* hold) {
     if (hold == nullptr) {
-        // Ignored signals survive exec: give the CLI the defaults.
+        // The tool ignores these two, and ignored signals survive exec.
         for (const int signal : {SIGPIPE, SIGXFSZ}) {
             std::signal(signal, SIG_DFL);
         }
@@ -37,17 +36,6 @@ constexpr int ignored_under_hold[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP, SIGXCPU}
     }
     execl("/bin/sh", "sh", "-c", text, static_cast<char*>(nullptr));
     _exit(127);
-}
-
-// Returns the raw status, -1 when it is unavailable.
-std::int32_t wait_for(pid_t child) {
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0) {
-        if (errno != EINTR) {
-            return -1;
-        }
-    }
-    return status;
 }
 
 } // namespace
@@ -73,6 +61,7 @@ std::int32_t run_command(const ShellCommand& command, const SignalHold* hold) {
     if (active_option_simulate != 0) {
         return 0;
     }
+    // The report of a command that is too long is emptied, too: nobody reads an earlier run's.
     if (!prepare_output(command.output_path, command.output) ||
         command.text.size() > command_length_max) {
         return -1;
@@ -84,5 +73,6 @@ std::int32_t run_command(const ShellCommand& command, const SignalHold* hold) {
     if (child == 0) {
         become_shell(command.text.c_str(), hold);
     }
-    return child < 0 ? -1 : wait_for(child);
+    int status = 0;
+    return child < 0 || waitpid(child, &status, 0) < 0 ? -1 : status;
 }

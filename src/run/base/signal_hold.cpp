@@ -7,11 +7,12 @@ namespace {
 bool signal_waits() {
     sigset_t waiting{};
     sigpending(&waiting);
-    bool any = false;
     for (int signal = 1; signal < NSIG; ++signal) {
-        any = any || sigismember(&waiting, signal) == 1;
+        if (sigismember(&waiting, signal) == 1) {
+            return true;
+        }
     }
-    return any;
+    return false;
 }
 
 } // namespace
@@ -27,7 +28,7 @@ SignalHold::SignalHold() {
 }
 
 SignalHold::~SignalHold() {
-    // Flush only if a signal is about to end us.
+    // A signal that waits may end us: flush first.
     if (signal_waits()) {
         std::fflush(nullptr);
     }

@@ -1,32 +1,26 @@
 #include "run/base/terminal_line.h"
 
 #include <cstdio>
-#include <string>
 #include <unistd.h>
 
 namespace {
 
+// Whether standard error is a terminal and no other job has it.
 bool watched() {
-    return terminal_lines_enabled && isatty(STDERR_FILENO) == 1 &&
-           tcgetpgrp(STDERR_FILENO) == getpgrp();
-}
-
-void write_line(const std::string& text) {
-    std::fprintf(stderr, "\r%s\r", text.c_str());
-    std::fflush(stderr);
+    return terminal_lines_enabled && tcgetpgrp(STDERR_FILENO) == getpgrp();
 }
 
 } // namespace
 
 TerminalLine::TerminalLine(std::string_view text) {
     if (!text.empty() && watched()) {
-        length_ = text.size();
-        write_line(std::string(text));
+        length_ = static_cast<int>(text.size());
+        std::fprintf(stderr, "\r%.*s\r", length_, text.data());
     }
 }
 
 TerminalLine::~TerminalLine() {
     if (length_ > 0) {
-        write_line(std::string(length_, ' '));
+        std::fprintf(stderr, "\r%*s\r", length_, "");
     }
 }

@@ -1,7 +1,6 @@
 // What the program is waiting for, shown to someone who watches it at a terminal.
 #pragma once
 
-#include <cstddef>
 #include <string_view>
 
 // Whether lines are shown at all. A program sets it once it has read its command line.
@@ -18,5 +17,5 @@ public:
     ~TerminalLine();
 
 private:
-    std::size_t length_ = 0; // 0: nothing is shown
+    int length_ = 0; // 0: nothing is shown
 };

@@ -46,10 +46,10 @@ inline bool is_blank(const char* text) {
 // there are separators.
 std::vector<std::string_view> split(std::string_view list, char separator);
 
-// Reads `text` as a number in `base` (10 or 16); trailing blanks and newlines are cut off in place.
-// Returns the value cut to 32 bits, negated after a leading minus sign; -1 for an empty text and
-// all ones before the negation for one that is no number. Callers refuse every negative result. A
-// value above 64 bits ends the run with 1 and the library's message on standard error.
+// Reads `text` as a number in `base` (10 or 16), after cutting trailing blanks and newlines off it
+// in place. Returns its lower 32 bits, negated after a minus sign; -1 for an empty text; for one
+// that is no number -1, or 1 after a minus sign. Callers refuse every negative result. A number of
+// more than 64 bits ends the run with 1 and the library's message on standard error.
 std::int32_t string2int(char* text, int base);
 
 // Whether string2int gives 0 or more.

@@ -29,5 +29,5 @@ inline bool read_failed(const TextFile& file) {
 
 // Makes a file that messages are written to, emptied and readable by its owner alone. Returns
 // null when it can't be opened or could be somebody else's: nothing is written through a link,
-// nor to a file with another owner or a second name.
+// nor to a file with another owner or a second name. Throws std::bad_alloc likewise.
 TextFile create_private_file(const char* path);

@@ -1,0 +1,331 @@
+"""What lscna lists, what it says is to be looked at, and how it ends."""
+
+import fcntl
+import json
+import os
+import re
+import subprocess
+
+import pytest
+from conftest import CONDITIONS, LIST, LSCNA, LSCNA_STANDIN, PROJECT, expect
+
+NOTES = "...\nTo look at:\n"
+# Of the FM adapter: its first FCoE port's report, the ids of its FCoE ports, its image.
+MAPPING, TITLE = "VM10250117_2_target_mapping.out", "Target Mapping for 10:00:00:00:c9:a1:00:11\n\n\n\n"
+IDS, IMAGE = r"19A2 \| 0714 \| 1C3E \| 11C1", "fm10102-4.6.142.10.ufi"
+VERSION = "1.0.1.0"
+STORAGE, WRONG = "Vendor ID: DGC\nProduct ID: Marlovan_CX1\n", "Vendor ID: NRB\nProduct ID: X\n"
+
+
+def simulated(blade, words=""):
+    return blade.run(LSCNA, f"--simulate --conpath blade {words}")
+
+
+def found(blade, words=""):
+    """The JSON object, whose status is that of the run; what goes to standard error comes before it."""
+    status, output = simulated(blade, f"--json {words}")
+    answer = json.loads(output[output.index("{\n"):].encode("utf-8", "surrogateescape"))
+    assert answer["status"] == status
+    return answer
+
+
+def change(blade, *what):
+    """Calls a function with the blade, writes (name, content), or edits (pattern, regular expression, text)."""
+    if callable(what[0]):
+        what[0](blade)
+    else:
+        blade.write(*what) if len(what) < 3 else blade.edit(what[0], what[1:])
+
+
+def removed(name):
+    return lambda blade: blade.remove(name)
+
+
+@pytest.fixture
+def good(blade):
+    """The example, but both adapters see storage that their records 1 and 2 (lines 21 and 22) allow."""
+    blade.edit("VM20713302_*_target_mapping.out", (": NRB", ": DGC"), ("_SX1", "_CX1"))
+    return blade
+
+
+@pytest.mark.parametrize("shown_in", ["README.md", "man/lscna.8.in"])
+def test_the_examples_screen_is_the_one_that_is_shown(blade, shown_in):
+    text = (PROJECT / shown_in).read_text().replace(r"\-", "-")
+    expect(simulated(blade), 1, re.search("^ADAPTER  (.|\n)*To look at:\n.*", text, re.MULTILINE)[0])
+
+
+WELL = [
+    ("storage that is allowed", (MAPPING, TITLE + STORAGE)),
+    ("no storage", (MAPPING, TITLE + "no target\n")),
+    ("an allowed LUN before the judged one", (MAPPING, TITLE + "Vendor ID: DGC\nProduct ID: CX4-9\n" + STORAGE)),
+    ("blank lines, which are no records with the same ids", (CONDITIONS, r"\Z", "\n\n \n---+--+---\n# a | b\n")),
+    ("a long value that is kept and listed only", (CONDITIONS, "2012-11-05", "x" * 100)),
+]
+
+
+@pytest.mark.parametrize("what", [row[1] for row in WELL], ids=[row[0] for row in WELL])
+def test_nothing_is_to_be_looked_at(good, what):
+    change(good, *what)
+    expect(simulated(good), 0, "ADAPTER *\n...\n  VM30550041, function 0, record 5: is10102-4.6.142.10.ufi")
+
+
+CAUSES = [
+    ("storage that is not allowed", (MAPPING, TITLE + WRONG),
+     "*17, function 2: record 1 (line 21) allows DGC Marlovan_CX,CX4- and NRB Marlovan_SX1"),
+    ("any model", (CONDITIONS, r"DGC \| Marlovan_CX,.*", "HP | | x"), "*17, functions 2 and 3: * allows any HP"),
+    ("a LUN before the judged one", (MAPPING, TITLE + WRONG + STORAGE),
+     "*17, function 2: its report also names NRB X, which record 1 (line 21) does not allow; *"),
+    ("an empty report", (MAPPING, ""), "*17, function 2: its target-mapping report has no title with *:11: *"),
+    ("another port's report", (MAPPING, ":11$", ":12"), "*17, function 2: its target-mapping report has no title *"),
+    ("no attributes", ("VM10250117_3_hba_attributes.out", "ERROR"), "*17, function 3: its attributes report has no *"),
+    ("a bad id", ("VM10250117_3_hba_attributes.out", "0714", "071G"), "*17, function 3: *one that is not hexadecimal"),
+    ("no serial number", (LIST, "^(Serial.*)VM1.*", r"\1n/a"), "n/a, functions 2 and 3: no serial number, *"),
+    ("no report", (removed("VM10250117_0_hba*"),), "the inventory ended at blade//VM10250117_0_hba_attributes.out, *"),
+    ("vendor and device id exchanged", (CONDITIONS, IDS, "0714 | 19A2 | 1C3E | 11C1"),
+     "no record has 19A2:0714:1C3E:11C1; record 1 (line 21) has vendor and device id exchanged: correct it"),
+    ("subsystem ids exchanged", (CONDITIONS, IDS, "19A2 | 0714 | 11C1 | 1C3E"), "*) has subvendor and subdevice id *"),
+    ("all ids exchanged", (CONDITIONS, IDS, "0714 | 19A2 | 11C1 | 1C3E"), "*) has vendor * exchanged, and subvendor *"),
+    ("pairs exchanged", (CONDITIONS, IDS, "1C3E | 11C1 | 19A2 | 0714"), "*) has the two pairs of ids exchanged *"),
+    ("a mistyped id", (CONDITIONS, "(0714.*)11C1", r"\g<1>11C7"), "*; record 1 (line 21) has the same vendor and *"),
+    ("another model", (CONDITIONS, "10102-F(?=.*0714.*11C1)", "9"),
+     "record 1 (line 21) has the ids 19A2:0714:1C3E:11C1, but is for Emulex CNA-9, not *; a flash takes *"),
+    ("no record, but another port's", (CONDITIONS, ".*0714.*11C1.*\n", ""),
+     "no record has *C1; if *, add: Emulex Corporation | CNA-10102-FM | * | x | x | | | x | x | DGC | Marlovan_CX1 | x"),
+    ("two records", (CONDITIONS, r"\Z", "E | M | 19A2 | 0714 | 1C3E | 11C1 | x\n"),
+     "record 1 (line 21) and record 6 (line 26) have the same four ids: *"),
+    ("no flash port", (LIST, "^(Serial.*VM1.*\nPort Number.*) .$", r"\1 3"), "*17, functions 0, 1, 2 and 3: *no f*"),
+    ("a function twice", (LIST, r"(18\nPCI Function *: )1", r"\g<1>0"), "VM30550041, function 0: * is listed twice: *"),
+    ("no image", (removed(IMAGE),), "*17, function 0: there is no directory *, and no file in blade/ is the firmware image * of record 3 *"),
+    ("another model's directory", ("VM20713302_0_hba*", "11C2", "11C1"), "*02, function 0: no file in blade/CNA-10102-FX/ *"),
+    ("two images", ("CNA-10102-FX/x.ufi", "x"), "*02, function 0: blade/*.ufi and blade/*.ufi match the firmware *"),
+    ("an empty image", (IMAGE, ""), f"*17, function 0: blade/{IMAGE}, *, is empty, and *"),
+    ("a directory", (lambda blade: (blade.remove(IMAGE), blade.path(IMAGE).mkdir()),), "*, is no regular file, *"),
+    ("a dead link", (lambda blade: (blade.remove(IMAGE), blade.path(IMAGE).symlink_to("x")),), "*, can't be read, *"),
+    ("one image twice", (CONDITIONS, r"(0700.*fm10102- \|) ", r"\1 fm"), "*17, function 0: *as firmware and as BIOS*"),
+    ("a flash record with ids exchanged", (CONDITIONS, r"19A2 \| 0700(?=.*11C1)", "0700 | 19A2"),
+     "no record has 19A2:0700:1C3E:11C1, so a flash writes nothing; record 3 *"),
+    ("a flash record for another model", (CONDITIONS, "10102-F(?=.*0700.*11C1)", "9"), "record 3 * has the ids *"),
+    ("a flash port's ids elsewhere", ("VM30550041_1*", "0712(?:.|\n)*11D0", "0700\nSub Device ID: 11C1"),
+     "VM30550041, function 1: it has the ids of a flash port, 19A2:0700:1C3E:11C1: *"),
+]
+
+
+@pytest.mark.parametrize("what, note", [row[1:] for row in CAUSES], ids=[row[0] for row in CAUSES])
+def test_a_cause_is_one_line(good, what, note):
+    change(good, *what)
+    expect(simulated(good), 1, f"{NOTES}  {note}")
+
+
+@pytest.mark.parametrize("serial", ["VM102", ""])
+def test_adapters_that_count_as_one_are_noted(cli, serial):
+    cli.edit(LIST, ("VM30550041", serial))
+    note = f"the serial number '{serial}' is the beginning of 'VM10250117': *"
+    expect(cli.run(LSCNA_STANDIN, "-C blade"), 1, f"{NOTES}...\n  {note}\n...")
+
+
+MISTAKES = [
+    ("\xef\xbb\xbf#\r\n#\0\n#\r\n", ["2: NUL bytes*", "1: a byte order mark*", "1: a carriage return*"]),
+    ("# %01022d\n" % 0, ["1: a line of more than 1023 characters*", "1: no bar*"]),
+    ("\n# a | b\n---+--+\nE | 1 # b\n", ["4: a number sign makes the whole line a comment*"]),
+    ("E|M|1|2|3\n\nE M\n", ["1: a record without all four ids*", "3: no bar*"]),
+    ("E|M|1|2|3|4|x|x|f|b|x|x|D|A, B\nE|M|1|2|3|5|x|x|f|b|x|x|D|A|x|D|A ,B\n",
+     ["1: a blank beside a comma becomes part of a model in 'A, B': *", "2: a blank * 'A ,B': *"]),
+    ("%020d|M|1|2|3|4|x|x|f|b|x|x|%010d\n" % (0, 0),
+     ["1: vendor '0*0' is longer than 19 characters", "1: storage vendor '0*' is longer than 9 characters"]),
+]
+
+
+@pytest.mark.parametrize("content, notes", MISTAKES, ids=[row[1][-1].replace("*", "") for row in MISTAKES])
+def test_a_mistake_in_the_conditions_file_is_noted_with_its_line(blade, content, notes):
+    blade.path(CONDITIONS).write_bytes(content.encode("latin-1"))
+    expect(simulated(blade), 1, NOTES + "".join(f"  blade/{CONDITIONS}:{note}\n" for note in notes) + "...")
+
+
+def test_a_refused_conditions_file_is_the_reason_of_every_port(good):
+    good.edit(CONDITIONS, ("(0714.*)11C1", r"\g<1>11G1"))
+    assert {port["verdict"] for port in found(good)["ports"]} == {None, "not judged"}
+    expect(simulated(good), 1, f"""{NOTES}  blade/{CONDITIONS}:21: subdevice id '11G1' is not hexadecimal
+  blade/{CONDITIONS}: cnatool refuses the file with 55, *""")
+
+
+def test_the_records_that_are_shown_where_there_is_none_can_be_pasted(good):
+    good.remove(CONDITIONS)
+    notes = [note["text"] for note in found(good)["notes"]]
+    assert [note[:45] for note in notes[2:]] == [f"no record has 19A2:0714:1C3E:11C{i}; if its sto" for i in "21"]
+    good.write(CONDITIONS, "\n".join(note[note.index("add: ") + 5:] for note in notes[2:]))
+    assert [port["verdict"] for port in found(good)["ports"] if port["verdict"]] == ["allowed"] * 4
+
+
+def test_each_verdict_has_its_reason(good):
+    """The other adapter's FCoE ports become functions 6 and 7 of this one: a check leaves out the middle ones."""
+    for wwn, old, new in ("11", 2, 6), ("12", 3, 7):
+        port = rf"(c9:b2:00:{wwn}\n(?:.+\n)*?Serial No. *: ).*((?:\n.+)*?Function *: ){old}"
+        good.edit(LIST, (port, rf"\1VM10250117\g<2>{new}"))
+        for report in "hba_attributes", "target_mapping":
+            good.write(f"VM10250117_{new}_{report}.out", good.read(f"VM20713302_{old}_{report}.out"))
+    good.write(MAPPING, TITLE)
+    good.write("VM10250117_3_target_mapping.out")
+    good.edit("VM10250117_7_target_mapping.out", ("DGC", "NRB"))
+    ports = [port for port in found(good)["ports"] if port["type"] == "FCoE"]
+    assert {port["fn"]: (port["verdict"], (port["reason"] or "")[:24]) for port in ports} == {
+        "2": ("no storage", ""), "3": ("not known", "its target-mapping repor"),
+        "6": ("not judged", "a check does not come to"), "7": ("not allowed", "record 2 (line 22) allow")}
+
+
+def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
+    blade.remove("is*")
+    # A backslash, a quotation mark (read as a blank), a letter of two bytes, no UTF-8, an overlong slash, controls.
+    vendor = b'\\\\"\xc3\xa4\xff\xc0\xaf\x01\x7f'.decode("utf-8", "surrogateescape")
+    blade.edit("VM20713302_2_target_mapping.out", ("NRB", vendor))
+    blade.edit("VM20713302_2_hba_attributes.out", ("^(Operational FW.*) .*", r"\1"))
+    blade.edit("VM20713302_1_hba_attributes.out", ("^(FW Version.*) .*", r"\1 old"), ("^(Sub Device.*) .*", r"\1 ?"))
+    answer = found(blade)
+    assert {key: answer[key] for key in answer if not isinstance(answer[key], list)} == {
+        "format": 1, "version": VERSION, "status": 1, "error": None, "fibre-channel-ports": 1}
+    fn1 = dict.fromkeys(["wwn", "pci-id", "storage", "record", "line", "verdict", "reason"]) | {
+        "adapter": "VM20713302", "fn": "1", "port": "1", "type": "NIC", "model": "CNA-10102-FX",
+        "mac": "00:00:c9:b2:00:02", "bus": "15", "firmware": "4.6.142.10"}
+    assert answer["ports"][1:3] == [fn1, fn1 | {
+        "fn": "2", "port": "0", "type": "FCoE", "wwn": "10:00:00:00:c9:b2:00:11", "mac": None, "record": 2, "line": 22,
+        "storage": {"vendor": "\\ \xe4\ufffd\ufffd\ufffd\x01\x7f", "product": "Marlovan_SX1", "version": "7.12"},
+        "pci-id": "19A2:0714:1C3E:11C2", "verdict": "not allowed",
+        "reason": "record 2 (line 22) allows DGC Marlovan_CX"}]
+    image = "blade/CNA-10102-FX/fx-"
+    assert answer["flashes"][::2] == [
+        {"adapter": "VM20713302", "fn": "0", "record": 4,
+         "firmware": {"pattern": "*.ufi", "files": [image + "4.6.142.10.ufi"]},
+         "bios": {"pattern": "*.grp", "files": [image + "bios-4.6.141.grp"]}},
+        {"adapter": "VM30550041", "fn": "0", "record": 5, "bios": None,
+         "firmware": {"pattern": "is10102-", "files": []}}]
+    assert answer["notes"][0] == {"adapter": "VM20713302", "functions": ["1"], "text": answer["notes"][0]["text"]}
+    # A terminal gets no byte that could change it.
+    assert "\\ ??????? Marlovan_SX1" in simulated(blade).output
+
+
+@pytest.mark.parametrize("words, status, notes", [
+    ("-p 19A2:0714:1C3E:11C1,19A2:0712", 0, []),
+    ("-p 19A2:0714,1:2:3:4", 1, ["--pci-id: no port has 1:2:3:4"]),
+    ("-p 19A2:0714,,19A2:0700", 1, ["--pci-id: '19A2:0700' is not read: *"]),
+    ("-p ,19A2:0700", 1, ["--pci-id: '19A2:0700' is not read: *", "--pci-id: no port has an empty group"]),
+])
+def test_a_selection_is_read_as_cnatool_reads_it(good, words, status, notes):
+    shown = f"{NOTES}  " + "\n  ".join(notes) if notes else "ADAPTER*\n..."
+    expect(simulated(good, words), status, shown)
+
+
+def test_a_selection_lists_ports_without_ids_too_and_wants_a_record_for_each_flash_port(good):
+    good.write("VM10250117_3_hba_attributes.out")
+    good.edit(CONDITIONS, (".*0700.*11C1.*\n", ""))
+    answer = found(good, "-p 19A2:0700")
+    assert [port["adapter"][-2:] + port["fn"] for port in answer["ports"]] == ["020", "021", "170", "171", "173"]
+    assert answer["notes"][0]["text"].startswith("no record has 19A2:0700:1C3E:11C1, so a flash writes nothing; add, ")
+
+
+def test_an_fcoe_flash_port_without_a_record_has_one_note(good):
+    good.edit(LIST, (r"(VM10250117\nPort Number *: 0\n.*\nPCI Function *: 0\nPort Type *: )NIC", r"\1FCoE"))
+    good.write("VM10250117_0_target_mapping.out", "Target Mapping for\n")
+    good.edit(CONDITIONS, (".*0700.*11C1.*\n", ""))
+    assert len(found(good, "-p 19A2:0700:1C3E:11C1")["notes"]) == 1
+
+
+@pytest.mark.parametrize("words, status, text", [
+    ("--version", 0, "lscna *.*.*.*"),
+    ("-x", 2, "lscna: invalid option -- 'x'\nlscna: a bad call: *"),
+    ("-s x", 2, "lscna: 'x' is no option"),
+    ("-s -C ''", 2, "lscna: --conpath: the name of the directory is empty"),
+    ("-C '' --json", 2, """lscna: --conpath: the name of the directory is empty
+{
+  "format": 1, "version": *, "status": 2, "error": "--conpath: the name of the directory is empty",
+..."""),
+    (f"-s -C {'x' * 1002}", 2, "lscna: --conpath: the name of the directory is too long"),
+    ("-s -C gone", 2, "lscna: there is no directory gone/"),
+    ("-s -C blade -p 19A2:07G0", 2, "lscna: --pci-id: not a list of *"),
+    ("-s -C blade -p -1", 2, "lscna: --pci-id: the list begins with a minus sign"),
+    (f"-s -C blade -p {'1' * 1024}", 2, "lscna: --pci-id: the list is too long"),
+    ("-C blade", 2, "lscna: the vendor's CLI, /*, is not installed"),
+])
+def test_the_command_line(blade, words, status, text):
+    expect(blade.run(LSCNA, words), status, text)
+
+
+@pytest.mark.parametrize("what, status, error", [
+    ((removed(LIST),), 2, "the list of ports, blade//local_hba_list.out, can't be read"),
+    ((LIST, "none"), 3, "the list of ports, blade//local_hba_list.out, names no port"),
+    (("VM10250117_0_hba_attributes.out", "0700", "1" * 17), 2, "a report holds a number of more than 64 bits"),
+])
+def test_json_is_one_object_where_nothing_is_listed(blade, what, status, error):
+    change(blade, *what)
+    assert found(blade) == {"format": 1, "version": VERSION, "status": status, "error": error, "ports": [],
+                            "fibre-channel-ports": 0, "flashes": [], "notes": []}
+    assert f"lscna: {error}\n" in simulated(blade).output
+
+
+def listed(cli, words=""):
+    return cli.run(LSCNA_STANDIN, f"-C blade -p 19A2:0714:1C3E:11C1 {words}")
+
+
+@pytest.mark.parametrize("command, action, ending", [
+    ("hbaattributes", "cat cli/reports/VM10250117_2_hba*; exit 3", "exit status 3"),
+    ("targetmapping", "cat cli/reports/VM10250117_2_t*; kill -9 $$", "signal 9"),
+])
+def test_a_port_whose_command_failed_is_not_known_though_its_report_looks_whole(cli, command, action, ending):
+    for call in range(1, 12):
+        cli.on(f"{command}{call}", f'[ "$2" != 10:00:00:00:c9:a1:00:11 ] || {{ {action}; }}')
+    expect(listed(cli), 1, f"""...
+VM10250117   2 *  not known
+...
+  VM10250117, function 2: the CLI's command {command} ended with {ending}, so *""")
+
+
+def test_a_port_whose_command_could_not_be_run_is_not_known(cli):
+    (cli.files / MAPPING).mkdir()
+    expect(listed(cli), 1, f"""...
+VM10250117   2 *  not known
+...
+  the inventory ended at blade//{MAPPING}, which can't be read: *
+  VM10250117, function 2: the CLI's command targetmapping could not be run: *""")
+
+
+def test_a_list_that_can_not_be_made(cli):
+    cli.on("listhbas1", "exit 1")
+    expect(listed(cli), 2, "lscna: the CLI's command listhbas failed: see what it says in blade//local_hba_list.out")
+
+
+def test_another_run_is_waited_for_unless_no_wait_is_given(cli):
+    with open(cli.directory / "hbacmd") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        expect(listed(cli, "--no-wait"), 2, "lscna: another run uses the vendor's CLI")
+        # Someone at a terminal sees what is waited for.
+        waiting = cli.start("script", ["-qec", f"{LSCNA_STANDIN} -C blade", "/dev/null"])
+        seen = b""
+        while b"waiting for another run" not in seen:
+            seen += os.read(waiting.stdout.fileno(), 1000)
+    seen = waiting.communicate(timeout=60)[0]
+    assert b"adapter list" in seen and b"port 5 of 11: target mapping" in seen and waiting.returncode == 1
+
+
+@pytest.mark.parametrize("filled", [pytest.param(1, id="in the middle"), pytest.param(4096, id="at the end")])
+def test_output_that_is_lost_ends_with_2(blade, filled):
+    """A pipe without room for a whole block; in the middle there is some for the rest of the output."""
+    reader, writer = os.pipe()
+    fcntl.fcntl(writer, fcntl.F_SETPIPE_SZ, 4096)
+    os.set_blocking(writer, False)
+    os.write(writer, b"x" * filled)
+    words = ["--simulate", "--json", "--conpath", "./" * 50 + "blade"] if filled == 1 else ["--version"]
+    run = subprocess.run([LSCNA, *words], cwd=blade.directory, stdout=writer, stderr=subprocess.PIPE, text=True)
+    assert (run.returncode, run.stderr) == (2, "lscna: standard output can't be written\n")
+    os.close(reader), os.close(writer)
+
+
+def test_completion_and_man_page_know_every_option_column_and_key(blade):
+    usage = blade.run(LSCNA, "--help").output
+    options = {word for pair in re.findall(r"^  (-\w), (--[\w-]+)", usage, re.MULTILINE) for word in pair}
+    columns = set(re.findall(r"^  ([A-Z-]+) ", usage[usage.index("Columns:"):], re.MULTILINE))
+    assert len(options) == 14 and len(columns) == 10
+    script = f". {PROJECT}/completion/lscna; COMP_WORDS=(lscna -) COMP_CWORD=1; _lscna; echo ${{COMPREPLY[@]}}"
+    assert set(blade.run("bash", ["-c", script]).output.split()) == options
+    answer = found(blade)
+    flash = answer["flashes"][0]
+    keys = {*answer, *answer["ports"][0], *flash, *flash["bios"], *answer["notes"][0]}
+    page = (PROJECT / "man/lscna.8.in").read_text().replace("\\-", "-")
+    assert (options | columns | keys) - set(re.split(r'[\s",]+', page)) == set()
