@@ -4,7 +4,7 @@ import re
 
 import pytest
 
-from conftest import BOTH, CONDITIONS, FM, FX, LIST, Result, expect
+from conftest import BOTH, CONDITIONS, FCOE_IMAGES, FM, FX, LIST, Result, expect
 
 BOTH_CHECKS = "--ctrl-wide-identical --ctrl-vendor-wide-identical"
 ALL_CHECKS = ["--check-for-valid-subsystem", "--ctrl-wide-identical", "--ctrl-vendor-wide-identical"]
@@ -91,6 +91,7 @@ vendor specific reference-sub-system 0 >NRB< >DGC<.
 def test_flash_after_a_check_that_passes(blade, change, words, status):
     if change:
         change(blade)
+    blade.edit(CONDITIONS, *FCOE_IMAGES)
     expect(blade.simulated(f"--flash {words}"), status, "...\n\tNow start flashing the firmware.\n...")
 
 

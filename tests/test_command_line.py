@@ -203,7 +203,7 @@ def test_option_needs_another(blade, words, option, needed, values):
 @pytest.mark.parametrize("words, told", [
     (f"--ctrl-wide-identical {FM}", "OverallSubSystemCheck returned: 0"),
     (f"--ctrl-vendor-wide-identical {BOTH}", "OverallSubSystemCheck returned: 0"),
-    (f"--flash {FX}", "Now start flashing"),
+    (f"--flash {FX}", "Look for firmware file"),
 ], ids=["ctrl-wide", "vendor-wide", "flash"])
 def test_default_check_is_left_out_beside(blade, words, told):
     blade.edit("VM10250117_3_target_mapping.out", (": DGC", ": NRB"), ("_CX1", "_SX1"))

@@ -4,7 +4,8 @@ import signal
 
 import pytest
 
-from conftest import BOTH, CNATOOL_STANDIN, CONDITIONS, FLASH_BOTH, FLASH_FM, FLASH_FX, FM, FX, LIST, expect
+from conftest import (
+    BOTH, CNATOOL_STANDIN, CONDITIONS, FCOE_IMAGES, FLASH_BOTH, FLASH_FM, FLASH_FX, FM, FX, LIST, expect)
 
 FM_FIRMWARE = "download [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]"
 FX_FIRMWARE = "download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]"
@@ -52,6 +53,7 @@ def test_whole_flash_of_one_adapter(cli):
     pytest.param(f"--flash --check-for-valid-subsystem {FX}", 4, [], id="not-after-a-check-that-fails"),
 ])
 def test_downloads(cli, words, status, calls):
+    cli.edit(CONDITIONS, *FCOE_IMAGES)
     expect(cli.real(f"--silent {words}"), status)
     assert downloads(cli) == calls
 
@@ -138,6 +140,7 @@ def test_record_is_told_at_the_highest_level(blade):
 
 
 def test_result_of_the_flash_is_told_at_level_3(blade):
+    blade.edit(CONDITIONS, *FCOE_IMAGES)
     expect(blade.simulated(f"-v 3 --flash --ctrl-wide-identical {BOTH}"), 0,
            "...\n\t\tOverallFlashBladeEngine returned: 0 \n")
 

@@ -105,7 +105,7 @@ FLASH = "flash: status {}, do not restart, stop the fleet"
     pytest.param(lambda b: program(b, "list", f'{LSCNA_STANDIN} --conpath blade "$@" || exit; touch blade/fm10102-old'),
                  "required", 3, NOT_JUDGED, 0, id="second-image-comes-behind-lscna"),
     pytest.param(lambda b: program(b, "list", f'''{LSCNA_STANDIN} --conpath blade "$@" || exit
-                                   mkdir -p blade/CNA-10102-FM; touch blade/CNA-10102-FM/fm10102-new'''),
+                                   mkdir -p blade/CNA-10102-FM; echo >blade/CNA-10102-FM/fm10102-new'''),
                  "required", 3, "set-up: files or ports change meanwhile", 0, id="other-image-comes-behind-lscna"),
     # A flash that does not write what was planned.
     pytest.param(lambda b: b.on("listhbas3", "rm cli/reports/VM10250117_[01]*"), "required",
