@@ -4,7 +4,7 @@ import re
 
 import pytest
 
-from conftest import BOTH, CONDITIONS, FM, FX, LIST, Result, expect
+from conftest import BOTH, CONDITIONS, FCOE_IMAGES, FM, FX, LIST, Result, expect
 
 BOTH_CHECKS = "--ctrl-wide-identical --ctrl-vendor-wide-identical"
 ALL_CHECKS = ["--check-for-valid-subsystem", "--ctrl-wide-identical", "--ctrl-vendor-wide-identical"]
@@ -89,10 +89,12 @@ FLASH, NO_FLASH = "...\n\tNow start flashing the firmware.\n...", "...\nOverallS
 ])
 def test_flash_beside_checks(blade, words, status, text):
     fm_ports_differ(blade)
+    blade.edit(CONDITIONS, *FCOE_IMAGES)
     expect(blade.simulated(f"-v 6 --flash {words}"), status, text)
 
 
 def test_flash_of_adapters_that_differ_but_pass_the_first_check(blade):
+    blade.edit(CONDITIONS, *FCOE_IMAGES)
     expect(blade.simulated(f"--flash {BOTH_CHECKS} {BOTH}"), 2, FLASH)
 
 

@@ -88,7 +88,7 @@ CAUSES = [
     ("pairs exchanged", (CONDITIONS, IDS, "1C3E | 11C1 | 19A2 | 0714"), "*) has the two pairs of ids exchanged *"),
     ("a mistyped id", (CONDITIONS, "(0714.*)11C1", r"\g<1>11C7"), "*; record 1 (line 21) has the same vendor and *"),
     ("another model", (CONDITIONS, "10102-F(?=.*0714.*11C1)", "9"),
-     "record 1 (line 21) has the ids 19A2:0714:1C3E:11C1, but is for Emulex CNA-9, not *; a flash of the port takes *"),
+     "record 1 (line 21) has the ids 19A2:0714:1C3E:11C1, but is for Emulex CNA-9, not *: correct it, or add one"),
     ("no record, but another port's", (CONDITIONS, ".*0714.*11C1.*\n", ""),
      "no record has *C1; if *, add: Emulex Corporation | CNA-10102-FM | * | x | x | | | x | x | DGC | Marlovan_CX1 | x"),
     ("two records", (CONDITIONS, r"\Z", "E | M | 19A2 | 0714 | 1C3E | 11C1 | x\n"),
@@ -104,7 +104,8 @@ CAUSES = [
     ("one image twice", (CONDITIONS, r"(0700.*fm10102- \|) ", r"\1 fm"), "*17, function 0: *as firmware and as BIOS*"),
     ("a flash record with ids exchanged", (CONDITIONS, r"19A2 \| 0700(?=.*11C1)", "0700 | 19A2"),
      "no record has 19A2:0700:1C3E:11C1, so a flash writes nothing; record 3 *"),
-    ("a flash record for another model", (CONDITIONS, "10102-F(?=.*0700.*11C1)", "9"), "record 3 * has the ids *"),
+    ("a flash record for another model", (CONDITIONS, "10102-F(?=.*0700.*11C1)", "9"),
+     "record 3 * has the ids *; a flash of the port takes its images *"),
     ("a flash port's ids elsewhere", ("VM30550041_1*", "0712(?:.|\n)*11D0", "0700\nSub Device ID: 11C1"),
      "VM30550041, function 1: it has the ids of a flash port, 19A2:0700:1C3E:11C1: *"),
 ]
