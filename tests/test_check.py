@@ -161,6 +161,11 @@ def test_storage_that_is_not_allowed_ends_the_walk(blade):
 \t\tTake this * vendor *""")
 
 
+def test_storage_that_is_not_allowed_is_not_compared(blade):
+    blade.edit("VM10250117_3_target_mapping.out", (": DGC", ": HP"))
+    expect(only("differs from", blade.simulated(f"-v 2 {FM}")), 4)
+
+
 @pytest.mark.parametrize("file, change, told", [
     pytest.param("VM10250117_2_target_mapping.out", ("(?s).+", ""), f"{FUNCTION_2}\n{FUNCTION_3}",
                  id="without-storage"),
@@ -228,8 +233,8 @@ def test_allowed_subsystems(blade, allowed, status, told):
     expect(only("Attached|eference subs", blade.simulated(FX)), status, told)
 
 
-@pytest.mark.parametrize("model, status", [("X,Marlovan_SX1_first_ed", 0), ("Marlovan_SX1_first_issue", 4)])
+@pytest.mark.parametrize("model, status", [("X,Marlovan_SX1_of_the_very_first_ed", 0), ("Marlovan_SX1_of_the_very_first_issue", 4)])
 def test_models_and_products_are_compared_whole_however_long(blade, model, status):
-    blade.edit("VM20713302_*_target_mapping.out", ("Marlovan_SX1", "Marlovan_SX1_first_edition"))
+    blade.edit("VM20713302_*_target_mapping.out", ("Marlovan_SX1", "Marlovan_SX1_of_the_very_first_edition"))
     blade.edit(CONDITIONS, (r"DGC \| Marlovan_CX \|", f"NRB|{model}|"))
     expect(blade.simulated(f"--silent {FX}"), status)

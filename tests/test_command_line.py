@@ -146,6 +146,7 @@ def test_option_needs_another(blade, words, option, needed, values):
 
 @pytest.mark.parametrize("words, status", [
     pytest.param(f"-vid 1 {FM}", 0, id="ids-last"),
+    pytest.param("-pci-id '19A2:0714:1C3E:11C1 \n'", 0, id="ids-and-a-newline"),
     pytest.param(f"{FM} -vid 1", 12, id="list-last"),
     pytest.param("-dev 1,714 -vid 10DF,19A2 -subdev 2,11C1 -subvid 3,1C3E", 0, id="lists-are-filled-side-by-side"),
     pytest.param("-vid 1,2 -dev 714 -vid 19A2", 0, id="second-list-overwrites-the-first"),

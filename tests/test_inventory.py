@@ -83,6 +83,8 @@ def numbered(labels):
     pytest.param("Serial No.: nobody\nPort WWN\nNode WWN\nMode: a Mode\n", "\ta Mode\n", id="before-the-first-port"),
     pytest.param('Permanent MAC: "10:22:33:44:55:66:77"\nFlags:\nHost Name:\t x \nMfg:Emulex\nModel:M\n',
                  "\n1)\tPermanentMAC: 10:22:33:44:55:66:77\n\t\n\tx\n\tmulex\n\t\n", id="around-the-value"),
+    # The line before must not show through.
+    pytest.param("Port WWN: w\nMode: a Mode\nMfg:", "\n1)\tPortWWN: w\n\ta Mode\n\t\n", id="ends-at-the-colon"),
     pytest.param("Port WWN: w\nModeling: a Model\nPort WWN: w\n",
                  "\n1)\tPortWWN: w\n\ta Model\n\n2)\tPortWWN: w\n", id="longer-than-its-label"),
     # A line of more than 1,023 characters is read in pieces.

@@ -75,6 +75,10 @@ CAUSES = [
     ("any model", (CONDITIONS, r"DGC \| Marlovan_CX,.*", "HP | | x"), "*17, functions 2 and 3: * allows any HP"),
     ("a LUN before the judged one", (MAPPING, TITLE + WRONG + STORAGE),
      "*17, function 2: its report also names NRB X, which record 1 (line 21) does not allow; *"),
+    ("another product before it", (MAPPING, TITLE + "Vendor ID: DGC\nProduct ID: X\n" + STORAGE), "*names DGC X, *"),
+    ("neither storage nor record", (lambda blade: (
+        blade.edit("VM10250117_?_target_mapping.out", (r"(?s)^(Target.*?\n).*", r"\1")),
+        blade.edit(CONDITIONS, (".*0714.*11C1.*\n", ""))),), "no record has 19A2:0714:1C3E:11C1; if its storage *"),
     ("an empty report", (MAPPING, ""), "*17, function 2: its target-mapping report has no title with *:11: *"),
     ("another port's report", (MAPPING, ":11$", ":12"), "*17, function 2: its target-mapping report has no title *"),
     ("no attributes", ("VM10250117_3_hba_attributes.out", "ERROR"), "*17, function 3: its attributes report has no *"),
@@ -86,6 +90,10 @@ CAUSES = [
     ("subsystem ids exchanged", (CONDITIONS, IDS, "19A2 | 0714 | 11C1 | 1C3E"), "*) has subvendor and subdevice id *"),
     ("all ids exchanged", (CONDITIONS, IDS, "0714 | 19A2 | 11C1 | 1C3E"), "*) has vendor * exchanged, and subvendor *"),
     ("pairs exchanged", (CONDITIONS, IDS, "1C3E | 11C1 | 19A2 | 0714"), "*) has the two pairs of ids exchanged *"),
+    ("another port's ids, exchanged", (lambda blade: (
+        blade.edit(CONDITIONS, (IDS, "0714 | 19A2 | 1C3E | 11C1")),
+        blade.edit("VM30550041_1*", ("19A2", "0714"), ("0712", "19A2"), ("11D0", "11C1"))),),
+     "no record has 19A2:0714:1C3E:11C1; if its storage *"),
     ("a mistyped id", (CONDITIONS, "(0714.*)11C1", r"\g<1>11C7"), "*; record 1 (line 21) has the same vendor and *"),
     ("another model", (CONDITIONS, "10102-F(?=.*0714.*11C1)", "9"),
      "record 1 (line 21) has the ids 19A2:0714:1C3E:11C1, but is for Emulex CNA-9, not *: correct it, or add one"),
@@ -97,7 +105,8 @@ CAUSES = [
     ("a function twice", (LIST, r"(18\nPCI Function *: )1", r"\g<1>0"), "VM30550041, function 0: * is listed twice: *"),
     ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *"),
     ("another model's directory", ("VM20713302_0_hba*", "11C2", "11C1"), "*02, function 0: no file in blade/CNA-10102-FX/ *"),
-    ("two images", ("CNA-10102-FX/x.ufi", "x"), "*02, function 0: blade/*.ufi and blade/*.ufi match the firmware *"),
+    ("two images", ("CNA-10102-FX/x.ufi", ""),
+     "*02, function 0: blade/*.ufi and blade/*.ufi match the firmware *\n  *, function 0: *x.ufi, *, is empty, *"),
     ("an empty image", (IMAGE, ""), f"*17, function 0: blade/{IMAGE}, *, is empty, and *"),
     ("a directory", (lambda blade: (blade.remove(IMAGE), blade.path(IMAGE).mkdir()),), "*, is no regular file, *"),
     ("a dead link", (lambda blade: (blade.remove(IMAGE), blade.path(IMAGE).symlink_to("x")),), "*, can't be read, *"),
@@ -175,8 +184,8 @@ def test_each_verdict_has_its_reason(good):
 
 def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
     blade.remove("is*")
-    # A backslash, a quotation mark (read as a blank), a letter of two bytes, no UTF-8, an overlong slash, controls.
-    vendor = b'\\\\"\xc3\xa4\xff\xc0\xaf\x01\x7f'.decode("utf-8", "surrogateescape")
+    # A backslash, a quotation mark (read as a blank), a letter of two bytes, no UTF-8, an overlong slash, a surrogate, controls.
+    vendor = b'\\\\"\xc3\xa4\xff\xc0\xaf\xed\xa0\x80\x01\x7f'.decode("utf-8", "surrogateescape")
     blade.edit("VM20713302_2_target_mapping.out", ("NRB", vendor))
     blade.edit("VM20713302_2_hba_attributes.out", ("^(Operational FW.*) .*", r"\1"))
     blade.edit("VM20713302_1_hba_attributes.out", ("^(FW Version.*) .*", r"\1 old"), ("^(Sub Device.*) .*", r"\1 ?"))
@@ -188,7 +197,7 @@ def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
         "mac": "00:00:c9:b2:00:02", "bus": "15", "firmware": "4.6.142.10"}
     assert answer["ports"][1:3] == [fn1, fn1 | {
         "fn": "2", "port": "0", "type": "FCoE", "wwn": "10:00:00:00:c9:b2:00:11", "mac": None, "record": 2, "line": 22,
-        "storage": {"vendor": "\\ \xe4\ufffd\ufffd\ufffd\x01\x7f", "product": "Marlovan_SX1", "version": "7.12"},
+        "storage": {"vendor": "\\ \xe4\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd\x01\x7f", "product": "Marlovan_SX1", "version": "7.12"},
         "pci-id": "19A2:0714:1C3E:11C2", "verdict": "not allowed",
         "reason": "record 2 (line 22) allows DGC Marlovan_CX"}]
     image = "blade/CNA-10102-FX/fx-"
@@ -200,7 +209,7 @@ def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
          "firmware": {"pattern": "is10102-", "files": []}}]
     assert answer["notes"][0] == {"adapter": "VM20713302", "functions": ["1"], "text": answer["notes"][0]["text"]}
     # A terminal gets no byte that could change it.
-    assert "\\ ??????? Marlovan_SX1" in simulated(blade).output
+    assert "\\ ?????????? Marlovan_SX1" in simulated(blade).output
 
 
 @pytest.mark.parametrize("words, status, notes", [
