@@ -130,10 +130,12 @@ std::string whole_record(const std::string& ids) {
 std::string missing_record(const hba_info& port, const char* consequence) {
     const std::string ids = pci_id(port);
     if (const Record* const record = record_of_flash(port)) {
-        return format("%s has the ids %s, but is for %s %s, not %s %s: correct it, or add one; a "
-                      "flash takes its images all the same",
+        return format("%s has the ids %s, but is for %s %s, not %s %s: correct it, or add one%s",
                       named(*record).c_str(), ids.c_str(), record->vendor, record->model, port.mfg,
-                      port.model);
+                      port.model,
+                      *record->firmware_image != '\0'
+                          ? "; a flash of the port takes its images all the same"
+                          : "");
     }
     const std::string missing = "no record has " + ids + consequence + "; ";
     if (const std::string record = mixed_up_record(port); !record.empty()) {
@@ -300,22 +302,22 @@ void note_image(const SurveyedFlash& flash, const SurveyedImage& image, Notes& n
     const std::string name = format("the %s image '%s' of %s", image.kind, image.pattern.c_str(),
                                     named(*flash.record).c_str());
     const std::string directory = image_directory(port);
-    const std::string no_own =
-        directory == pHBAFirmwarePath && *port.model != '\0'
-            ? format("there is no directory %s%s, and ", pHBAFirmwarePath, port.model)
-            : "";
+    const std::string own = directory == pHBAFirmwarePath && *port.model != '\0'
+                                ? format("; the model's own directory, %s%s, is not there",
+                                         directory.c_str(), port.model)
+                                : "";
     if (image.pattern.empty()) {
         add_note(notes, port,
                  named(*flash.record) + " names no firmware image, so a flash ends with 20");
     } else if (image.files.empty()) {
         add_note(notes, port,
-                 format("%sno file in %s is %s, so a flash ends with 20", no_own.c_str(),
-                        directory.c_str(), name.c_str()));
+                 format("no file in %s is %s, so a flash ends with 20%s", directory.c_str(),
+                        name.c_str(), own.c_str()));
     } else if (image.files.size() > 1) {
         add_note(notes, port,
-                 format("%s%s match %s, and a flash takes either: give a longer beginning of the "
-                        "name, or move the others away",
-                        no_own.c_str(), join(image.files).c_str(), name.c_str()));
+                 format("%s match %s, and a flash takes either: give a longer beginning of the "
+                        "name, or move the others away%s",
+                        join(image.files).c_str(), name.c_str(), own.c_str()));
     }
     for (const std::string& file : image.files) {
         if (const char* const fault = image_fault(file); *fault != '\0') {
@@ -498,6 +500,7 @@ std::string pci_id(const hba_info& port) {
 }
 
 void survey_ports(const option_input* selection, const CommonCauses& causes, Survey& survey) {
+    note_adapters(survey.notes);
     for (const hba_info* port : all_ports()) {
         if (!serial_missing(*port) && port->flash_port == nullptr) {
             add_note(survey.notes, *port, no_flash_port);
@@ -507,7 +510,6 @@ void survey_ports(const option_input* selection, const CommonCauses& causes, Sur
         }
     }
     note_side_effects(survey);
-    note_adapters(survey.notes);
     note_records(survey.notes);
     note_selection(selection, survey.notes);
 }

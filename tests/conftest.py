@@ -8,8 +8,8 @@ import shlex
 import shutil
 import signal
 import subprocess
+from collections import namedtuple
 from pathlib import Path
-from typing import NamedTuple
 
 import pytest
 
@@ -34,17 +34,14 @@ CONDITIONS, LIST = "FC_HBA_Conditions.txt", "local_hba_list.out"
 FCOE_IMAGES = [(r"(11C1 \| FCoE.*PCIe \|) +", r"\1 fm10102- "), (r"(11C2 \| FCoE.*PCIe \|) +", r"\1 *.ufi ")]
 
 ENVIRONMENT = {
-    "PATH": "/usr/bin:/bin",
-    "LC_ALL": "C",
+    "PATH": "/usr/bin:/bin", "LC_ALL": "C",
     # A report of a sanitizer must not look like a status of the tool.
-    "ASAN_OPTIONS": "exitcode=99",
-    "UBSAN_OPTIONS": "halt_on_error=1:exitcode=99:print_stacktrace=1",
+    "ASAN_OPTIONS": "exitcode=99", "UBSAN_OPTIONS": "halt_on_error=1:exitcode=99:print_stacktrace=1",
 }
 
 
-class Result(NamedTuple):
-    status: int  # negative: the number of the signal that ended the program
-    output: str  # standard output and standard error, in the order in which they came
+# The status is negative when a signal ended the program. The output is standard output and standard error.
+Result = namedtuple("Result", "status output")
 
 
 class Blade:
@@ -164,20 +161,17 @@ def difference(text, output):
     """Tells the first wanted line that did not come, and what came at the nearest place; nothing if all came."""
     came = ["\n(begin)", *output.split("\n")]
     came[-1] += "\n(end)"
-    blocks = [["\n(begin)"]]
-    for line in text.split("\n") if text else []:
-        blocks.append([]) if line == "..." else blocks[-1].append(line)
-    blocks[-1].append("\n(end)")
+    wanted = ["\n(begin)", *(text.split("\n") if text else []), "\n(end)"]
     at = 0
-    for block in blocks:
+    for block in [list(lines) for dots, lines in itertools.groupby(wanted, "...".__eq__) if not dots]:
         counts = [fitting(block, came[place:]) for place in range(at, len(came))]
         count = max(counts)
-        places = [at + i for i, other in enumerate(counts) if other == count]
+        ends = [at + place + count for place, other in enumerate(counts) if other == count]
         if count < len(block):
-            at = count + max(places, key=lambda place: likeness(block[count], came[place + count]))
+            at = max(ends, key=lambda end: difflib.SequenceMatcher(None, block[count], came[end]).ratio())
             return [f"line {at} of {len(came) - 2}:", f"  wanted: {block[count]!r}", f"  came:   {came[at]!r}",
                     *(f"          {line!r}" for line in came[at + 1:at + 3])]
-        at = places[0] + count
+        at = ends[0]
     return []
 
 
@@ -186,7 +180,3 @@ def fitting(block, lines):
     def fits(line, wanted):
         return re.fullmatch(".*".join(map(re.escape, re.split(r"(?<!\*)\*(?!\*)", wanted))), line)
     return len(list(itertools.takewhile(lambda pair: fits(*pair), zip(lines, block))))
-
-
-def likeness(wanted, line):
-    return difflib.SequenceMatcher(None, wanted, line).ratio()

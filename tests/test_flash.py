@@ -4,8 +4,7 @@ import signal
 
 import pytest
 
-from conftest import (
-    BOTH, CNATOOL_STANDIN, CONDITIONS, FCOE_IMAGES, FLASH_BOTH, FLASH_FM, FLASH_FX, FM, FX, LIST, expect)
+from conftest import CNATOOL_STANDIN, CONDITIONS, FCOE_IMAGES, FLASH_BOTH, FLASH_FM, FLASH_FX, FM, LIST, expect
 
 FM_FIRMWARE = "download [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]"
 FX_FIRMWARE = "download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]"
@@ -47,14 +46,13 @@ def test_whole_flash_of_one_adapter(cli):
 # What is written.
 
 
-@pytest.mark.parametrize("words, status, calls", [
-    pytest.param(FLASH_BOTH, 0, [FX_FIRMWARE, FX_BIOS, FM_FIRMWARE], id="in-the-order-of-the-flash-ports"),
-    pytest.param(f"--flash {FM}", 0, [FM_FIRMWARE] * 2, id="again-for-each-function-but-the-flash-port"),
-    pytest.param(f"--flash --check-for-valid-subsystem {FX}", 4, [], id="not-after-a-check-that-fails"),
+@pytest.mark.parametrize("words, calls", [
+    pytest.param(FLASH_BOTH, [FX_FIRMWARE, FX_BIOS, FM_FIRMWARE], id="in-the-order-of-the-flash-ports"),
+    pytest.param(f"--flash {FM}", [FM_FIRMWARE] * 2, id="again-for-each-function-but-the-flash-port"),
 ])
-def test_downloads(cli, words, status, calls):
+def test_downloads(cli, words, calls):
     cli.edit(CONDITIONS, *FCOE_IMAGES)
-    expect(cli.real(f"--silent {words}"), status)
+    expect(cli.real(f"--silent {words}"), 0)
     assert downloads(cli) == calls
 
 
@@ -70,10 +68,7 @@ def test_port_without_a_record_counts_as_found(cli):
     assert downloads(cli) == []
 
 
-@pytest.mark.parametrize("call, calls", [
-    ("download1", [FX_FIRMWARE]),
-    ("download2", [FX_FIRMWARE, FX_BIOS]),
-])
+@pytest.mark.parametrize("call, calls", [("download1", [FX_FIRMWARE]), ("download2", [FX_FIRMWARE, FX_BIOS])])
 def test_failed_download_ends_the_run(cli, call, calls):
     cli.on(call, "exit 7")
     expect(cli.real(FLASH_BOTH), 10, "...\n\t\tFail, flash command returned code 1792.\n")
@@ -104,45 +99,24 @@ def test_quoted_names_of_images(cli):
                               FX_BIOS.replace("CNA-10102-FX", "it's $(FX)")]
 
 
-def test_quoted_characters(cli):
-    names = ["#", "~root", r"\a", *(f"a{character}b" for character in " |&;<>()$`'*?"), "a[X]b"]
-    (cli.directory / "aXb").touch()
-    cli.write(LIST, "".join(f"Port WWN: {name}\nSerial No: x\nPort Type: FCoE\n" for name in names))
-    expect(cli.real("--silent"), 22)
-    assert cli.calls == ["listhbas", *(f"hbaattributes [{name}]" for name in names),
-                         *(f"targetmapping [{name}]" for name in names)]
-
-
 # What is told.
 
 
 def test_both_images_from_the_directory_of_the_model(blade):
-    expect(blade.simulated(FLASH_FX), 0, """\
+    expect(blade.simulated(f"-v 3 {FLASH_FX}"), 0, """\
 ...
 \tFirmware path: blade/CNA-10102-FX
+...
+\t\tLook for BIOS file: *.grp
 ...
 \t\t\tBIOS file found: blade/CNA-10102-FX/fx-bios-4.6.141.grp
 
 \tNow start flashing the BIOS.
 \t\tFlash command is: *
 \t\t*/hbacmd download 00:00:c9:b2:00:01 *grp >> blade/CNA-10102-FX//FWtrace.out
-...""")
-
-
-def test_record_is_told_at_the_highest_level(blade):
-    expect(blade.simulated(f"-v 6 {FLASH_FM}"), 0, """\
 ...
-\t---------+*
-
-\tFC_HBA_Conditions.txt:
-\tFound a matching* line 3:
-...""")
-
-
-def test_result_of_the_flash_is_told_at_level_3(blade):
-    blade.edit(CONDITIONS, *FCOE_IMAGES)
-    expect(blade.simulated(f"-v 3 --flash --ctrl-wide-identical {BOTH}"), 0,
-           "...\n\t\tOverallFlashBladeEngine returned: 0 \n")
+\t\tOverallFlashBladeEngine returned: 0\x20
+""")
 
 
 @pytest.mark.parametrize("call, action, status, text", [
@@ -156,14 +130,6 @@ def test_result_of_the_flash_is_told_at_level_3(blade):
 def test_what_is_needed_goes_while_the_tool_runs(cli, call, action, status, text):
     cli.on(call, action)
     expect(cli.real(FLASH_FX), status, f"...\n{text}")
-
-
-def test_missing_image_is_told(blade):
-    blade.remove("CNA-10102-FX/*.grp")
-    expect(blade.simulated(FLASH_FX), 20, """\
-...
-\t\tLook for BIOS file: *.grp
-\tNo BIOS- or firmware-image was found in *.grp!""")
 
 
 def test_file_in_the_place_of_the_images_directory(blade):
@@ -181,24 +147,14 @@ def test_model_never_leads_out_of_the_directory(blade, model):
 
 def test_adapter_without_a_model(blade):
     blade.edit(LIST, ("CNA-10102-FM", ""))
-    expect(blade.simulated(FLASH_FM), 0, """\
-...
-\tFirmware path: blade/
-\t\tLook for firmware file: fm10102-
-\t\tFound BIOS- or firmware-image: blade/fm*
-...""")
+    expect(blade.simulated(FLASH_FM), 0, "...\n\t\tPort index: 0.\n\n\tFirmware path: blade/\n...")
 
 
 def test_port_without_a_serial_number_is_told(blade):
     blade.edit(LIST, ("VM2.*", "n/a"))
-    expect(blade.simulated(FLASH_FX), 12, """\
-...
-System:
-\tFound an adequate installed controller-device:
-\t\tVendor:*SerialNumber: n/a*
-\t\tPort index: 0; Ignore this port due to missing serial number  => SKIP.
-System:
-...""")
+    expect(blade.simulated(FLASH_FX), 12, "...\nSystem:\n\tFound an adequate installed controller-device:\n"
+           "\t\tVendor:*SerialNumber: n/a*\n"
+           "\t\tPort index: 0; Ignore this port due to missing serial number  => SKIP.\n...")
 
 
 # The image is named by a leading part or by an extension, and is never a hidden file.
@@ -232,18 +188,15 @@ def flash_with_its_pid_in_tool(cli):
     return cli.run("sh", f"-c 'export tool=$$; exec {CNATOOL_STANDIN} --conpath blade {FLASH_FX}'")
 
 
-@pytest.mark.parametrize("number, action", [
-    pytest.param(signal.SIGINT, "kill -s INT -- -$tool $PPID $$", id="INT-to-all"),
-    pytest.param(signal.SIGTERM, "kill -s TERM -- -$tool $PPID $$", id="TERM-to-all"),
-    pytest.param(signal.SIGUSR1, "kill -s USR1 $tool", id="USR1-to-the-tool"),
-    pytest.param(signal.SIGALRM, "kill -s ALRM $tool", id="ALRM-to-the-tool"),
+@pytest.mark.parametrize("action", [
+    pytest.param("kill -s INT -- -$tool $PPID $$; kill -s TERM $$", id="to-all"),
     # A download is out of the terminal's reach, even when the CLI has handlers of its own.
-    pytest.param(signal.SIGINT, """env --default-signal=INT sh -c 'trap "exit 9" INT; kill -s INT -- -$tool'""",
-                 id="INT-to-a-handler"),
+    pytest.param("""env --default-signal=INT sh -c 'trap "exit 9" INT; kill -s INT -- -$tool'""",
+                 id="to-a-handler"),
 ])
-def test_signal_waits_for_the_download(cli, number, action):
+def test_ctrl_c_waits_for_the_download(cli, action):
     cli.on("download1", f"{action}; echo finished >>cli/calls.log")
-    expect(flash_with_its_pid_in_tool(cli), -number, "...\n\t\tSuccess, flash command returned code 0.\n")
+    expect(flash_with_its_pid_in_tool(cli), -signal.SIGINT, "...\n\t\tSuccess, flash command returned code 0.\n")
     assert cli.calls[-1] == "finished"
 
 

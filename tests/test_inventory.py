@@ -32,8 +32,9 @@ def test_missing_cli(cli):
 
 
 def test_list_whose_command_fails_counts_for_nothing(cli):
-    cli.on("listhbas1", "cat cli/reports/local_hba_list.out; exit 3")
-    expect(cli.real("-v 4"), 13, f'...\n\nFail, "hbacmd listhbas" command returned code 768.\n{NO_BLADE}')
+    cli.on("listhbas1", "cat cli/reports/local_hba_list.out; echo 'The list is made.' >&2; exit 3")
+    expect(cli.real("-v 6"), 13, "...\n./hbacmd listhbas > blade//local_hba_list.out \nThe list is made.\n\n"
+           f'Fail, "hbacmd listhbas" command returned code 768.\n{NO_BLADE}')
     assert cli.calls == CALLS[:1]
 
 
@@ -69,12 +70,16 @@ def test_report_that_cannot_be_opened_ends_the_inventory(cli, call, file, calls,
 # The lines of the reports. A value begins two characters after the colon, without the blanks and quotes around it.
 
 
+def numbered(labels):
+    """A line for each label, with its number as the value."""
+    return "".join(f"{label}: {number}\n" for number, label in enumerate(labels.split(","), 1))
+
+
 @pytest.mark.parametrize("lines, text", [
-    pytest.param("Port WWN: a\nNode WWN: b\nFabric Name: c\nPermanent MAC: d\nCurrent MAC: e\nFlags: f\nHost Name: g\n"
-                 "Mfg: h\nSerial No.: i\nPort Number: 1\nMode: k\nPCI Bus Number: 2\nPCI Function: 3\nPort Type: l\n"
-                 "Model: m\n",
-                 "\n1)\tPortWWN: a\n\tNodeWWN: b\n\tFabric_Name: c\n\n2)\tPermanentMAC: d\n\tCurrentMAC: e\n"
-                 "\tf\n\tg\n\th\n\ti\n\t1\n\tk\n\t2\n\t3\n\tl\n\tm\n", id="each-label"),
+    pytest.param(numbered("Port WWN,Node WWN,Fabric Name,Permanent MAC,Current MAC,Flags,Host Name,Mfg,Serial No.,"
+                          "Port Number,Mode,PCI Bus Number,PCI Function,Port Type,Model"),
+                 "\n1)\tPortWWN: 1\n\tNodeWWN: 2\n\tFabric_Name: 3\n\n2)\tPermanentMAC: 4\n\tCurrentMAC: 5\n\t" +
+                 "\n\t".join(map(str, range(6, 16))) + "\n", id="each-label"),
     pytest.param("Serial No.: nobody\nPort WWN\nNode WWN\nMode: a Mode\n", "\ta Mode\n", id="before-the-first-port"),
     pytest.param('Permanent MAC: "10:22:33:44:55:66:77"\nFlags:\nHost Name:\t x \nMfg:Emulex\nModel:M\n',
                  "\n1)\tPermanentMAC: 10:22:33:44:55:66:77\n\t\n\tx\n\tmulex\n\t\n", id="around-the-value"),
@@ -97,9 +102,10 @@ SHOWN_IDS = "\t\t19A2\n\t\t714\n\t\t1C3E\n\t\t11C1\n"
 
 
 @pytest.mark.parametrize("lines, status, text", [
-    pytest.param(None, 0, SHOWN_TITLE + "\t\tVM10250117\n\t\tCNA-10102-FM\n\t\t2\n\t\t4.6.142.10\n\t\t19A2\n\t\t0714\n"
-                 "\t\tCNA-10102-FM\n\t\t4.6.142.10\n\t\t8.3.5.68.5p; HB\n\t\tFCoE\n\t\t11C1\n\t\t1C3E\n\t\tnone\n",
-                 id="example"),
+    pytest.param(TITLE + numbered("Serial Number,Model,HW Version,FW Version,Vendor Spec ID,Device ID,HBA Type,"
+                                  "Operational FW,Driver Version,Function Type,Sub Device ID,Sub Vendor ID,"
+                                  "IPL Filename"), 12,
+                 SHOWN_TITLE + "".join(f"\t\t{number}\n" for number in range(1, 14)), id="each-label"),
     pytest.param(IDS + TITLE, 12, SHOWN_TITLE, id="before-the-title"),
     # A line without a colon tells what there is.
     pytest.param(f"{TITLE}{IDS}{TITLE}Model Desc: D\nModel: M\nDevice ID\n", 12,
@@ -110,8 +116,7 @@ SHOWN_IDS = "\t\t19A2\n\t\t714\n\t\t1C3E\n\t\t11C1\n"
 def test_lines_of_the_attributes(blade, lines, status, text):
     """Of FM's first port, the only one that is selected."""
     blade.edit("VM10250117_3_hba_attributes.out", ("11C1", "11C9"))
-    if lines:
-        blade.write(ATTRIBUTES, lines)
+    blade.write(ATTRIBUTES, lines)
     expect(blade.simulated(f"-v 6 {FM}"), status,
            f'...\n\t\tSuccess, "hbacmd hbaattributes {PORTS[2]}" command returned code 0.\n{text}\n\t\t/usr*\n...')
 
@@ -122,9 +127,10 @@ def test_number_of_more_than_64_bits(blade):
 
 
 @pytest.mark.parametrize("lines, status, text", [
-    pytest.param(None, 0, f"\n\t\t\tTarget Mapping for {PORTS[2]}\n" + "".join(
-        f"\t\t\t000000000000000{lun}\n\t\t\t{lun}\n\t\t\t/dev/sd{disk}\n\t\t\tDGC\n\t\t\tMarlovan_CX1\n\t\t\t0430\n"
-        "\t\t\tDisk\n\t\t\t102400 MB\n\t\t\t512 Bytes\n" for lun, disk in ("0b", "1c")), id="example"),
+    pytest.param("Target Mapping for x\n\n\n\n" + numbered("FCP LUN,SCSI OS Lun,Lun Device Name,Vendor ID,Product ID,"
+                                                        "Product Version,Type,SCSI Capacity,Block Size"), 4,
+                 f"\n\t\t\tTarget Mapping for {PORTS[2]}\n" + "".join(f"\t\t\t{i}\n" for i in range(1, 10)),
+                 id="each-label"),
     # The title has four lines; storage begins with the next one that has a colon.
     pytest.param("1\n2\n3\nVendor ID: NRB\nType Disk\n", 0, "", id="title"),
     pytest.param("1\n2\n3\n4\nType Disk\nVendor ID: NRB\n", 4, "\t\t\tNRB\n", id="after-the-title"),
@@ -133,8 +139,7 @@ def test_number_of_more_than_64_bits(blade):
                  "\t\t\t\n\t\t\t1234\n\t\t\tMarlovan_CX1\n\t\t\tX\n\t\t\tDGC\n\t\t\tDGC\n", id="last-LUN-counts"),
 ])
 def test_lines_of_the_target_mapping(blade, lines, status, text):
-    if lines:
-        blade.write(MAPPING, lines)
+    blade.write(MAPPING, lines)
     expect(blade.simulated(f"-v 6 {FM}"), status,
            f'...\n\t\t\tSuccess, "hbacmd targetmapping {PORTS[2]}" command returned code 0.\n{text}\n\t\t\t/usr*\n...')
 

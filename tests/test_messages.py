@@ -2,43 +2,24 @@
 
 import pytest
 
-from conftest import BOTH, CONDITIONS, FLASH_BOTH, FM, LIST, expect
+from conftest import BOTH, FLASH_BOTH, FM, LIST, expect
 
 STARS, DASHES = 8 * "*********+", 8 * "---------+"
 
 
-def test_everything_that_is_told_of_a_passing_check_of_one_port(blade):
-    blade.write(CONDITIONS, "Emulex|CNA-10102-F|19A2|0714|1C3E|11C1|FCoE|PCIe|fm10102-| |2012|x|"
-                            "DGC|Marlovan_CX,CX4-|x|NRB|Marlovan_SX1|x\n")
-    blade.write(LIST, """\
-Port WWN: 10:00:00:00:c9:a1:00:11
-Mfg: Emulex Corporation
-Serial No.: VM10250117
-Port Number: 0
-PCI Function: 0
-Port Type: FCoE
-Model: CNA-10102-FM
-""")
-    blade.write("VM10250117_0_hba_attributes.out", """\
-HBA Attributes for 10:00:00:00:c9:a1:00:11
-Model: CNA-10102-FM
-Vendor Spec ID: 19A2
-Device ID: 0714
-Sub Device ID: 11C1
-Sub Vendor ID: 1C3E
-""")
-    blade.write("VM10250117_0_target_mapping.out", """\
-Target Mapping for 10:00:00:00:c9:a1:00:11
-
-FCP ID 010600, SCSI Bus 0, SCSI Target 0
-
-Lun Device Name: /dev/sdb
-Vendor ID: DGC
-Product ID: Marlovan_CX1
-Product Version: 0430
-""")
-    port = ("Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: 0 "
-            "PCI function: 0")
+def test_what_is_told_of_a_passing_check(blade):
+    """Without what the tests of the conditions, the inventory and the order of the ports show."""
+    ports = [f"Vendor: Emulex Corporation, Model: CNA-10102-FM SerialNumber: VM10250117 PortType: FCoE PortNumber: {i} "
+             f"PCI function: {i + 2}" for i in (0, 1)]
+    storage = """\
+\t\tAttached storage sub-system:
+\t\t\t\tDGC
+\t\t\t\tMarlovan_CX1
+\t\t\t\t0430
+\t\t\tCheck subsystem: 'Marlovan_CX' Attached subsystem: 'Marlovan_CX1'\t\t\t--> OK
+\tAlready identified reference subsystems: Marlovan_CX  Subsystem group: Marlovan_CX,CX4-
+\tReference subsystem Marlovan_CX found in Group: Marlovan_CX,CX4-
+\t\t\tAll reference subsystems appear in the same group: Marlovan_CX,CX4-"""
     expect(blade.simulated(f"-v 6 {FM}"), 0, f"""\
 
 List of input pci-ids: "19A2:0714:1C3E:11C1"
@@ -49,77 +30,29 @@ List of input pci-ids: "19A2:0714:1C3E:11C1"
 \tSubDevice-Id 0x11c1
 env: Environment variable TMPDIR is not set.
 HBA conditions file: blade/FC_HBA_Conditions.txt
-             Emulex |      CNA-10102-F |   19A2 |   0714 |   1C3E |   11C1 | * |       Marlovan_SX1 |            x
-
-{STARS}
-
-List of allowed Fibre-Channel-Controller and Online-Storage-System combinations:
-
-Emulex     CNA-10102-F    \x20
-\t\t1) DGC        Marlovan_CX,CX4-
-\t\t2) NRB        Marlovan_SX1   \x20
-
-
+...
 {STARS}
 /usr/sbin/ocmanager/hbacmd listhbas > blade//local_hba_list.out\x20
 
 Success, "hbacmd listhbas" command returned code 0.
-
-1)\tPortWWN: 10:00:00:00:c9:a1:00:11
-\tEmulex Corporation
-\tVM10250117
-\t0
-\t0
-\tFCoE
-\tCNA-10102-FM
-
-\t\t/usr/sbin/ocmanager/hbacmd hbaattributes 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_hba_attributes.out
-
-\t\tSuccess, "hbacmd hbaattributes 10:00:00:00:c9:a1:00:11" command returned code 0.
-
-\t\tHBA Attributes for 10:00:00:00:c9:a1:00:11
-
-\t\tCNA-10102-FM
-\t\t19A2
-\t\t0714
-\t\t11C1
-\t\t1C3E
-
-\t\t\t/usr/sbin/ocmanager/hbacmd targetmapping 10:00:00:00:c9:a1:00:11 > blade//VM10250117_0_target_mapping.out
-
-\t\t\tSuccess, "hbacmd targetmapping 10:00:00:00:c9:a1:00:11" command returned code 0.
-
-\t\t\tTarget Mapping for 10:00:00:00:c9:a1:00:11
-\t\t\t/dev/sdb
-\t\t\tDGC
-\t\t\tMarlovan_CX1
-\t\t\t0430
-
-
-Original input list.
-
-0\tCNA-10102-FM FCoE VM10250117 0 0
-
-
-List of CNA controller.
-
-0\tCNA-10102-FM FCoE VM10250117 0 0
-
-Only FC ports detected.
-
-
-Total Result after PCI function sort.
-
-0\tCNA-10102-FM FCoE VM10250117 0 0
+...
+\t\t/usr/sbin/ocmanager/hbacmd hbaattributes 10:00:00:00:c9:b2:00:11 > blade//VM20713302_2_hba_attributes.out
+...
+\t\t\t/usr/sbin/ocmanager/hbacmd targetmapping 10:00:00:00:c9:b2:00:11 > blade//VM20713302_2_target_mapping.out
+...
+9\tCNA-10102-I iSCSI VM30550041 1 1
 
 {80 * "*"}\x20
 
 List of Fibre-Channel-Controller and attached Online-Storage-Systems:
 
-  Emulex Corporation\tCNA-10102-FM\tFCoE\tVM10250117  port 0  function 0
+  Emulex Corporation\tCNA-10102-FX\tFCoE\tVM20713302  port 0  function 2
 
-\tDGC
-\tMarlovan_CX1
+\tNRB
+\tMarlovan_SX1
+\t7.12
+
+...
 \t0430
 
 
@@ -143,22 +76,31 @@ CtrlSpecificSubsystemEquality: 1\x20
 \t\t{DASHES}
 
 \t\tPerform subsystem check for:
-\t\t{port}
+\t\t{ports[0]}
 
-\t\tAttached storage sub-system:
-\t\t\t\tDGC
-\t\t\t\tMarlovan_CX1
-\t\t\t\t0430
-\t\t\tCheck subsystem: 'Marlovan_CX' Attached subsystem: 'Marlovan_CX1'\t\t\t--> OK
-\tAlready identified reference subsystems: Marlovan_CX  Subsystem group: Marlovan_CX,CX4-
-\tReference subsystem Marlovan_CX found in Group: Marlovan_CX,CX4-
-\t\t\tAll reference subsystems appear in the same group: Marlovan_CX,CX4-
+{storage}
 
 \t\tTake this sub-system as reference-sub-system for this controller-device.
-\t\t\t{port}
+\t\t\t{ports[0]}
 
 \t\tTake this sub-system as reference-sub-system for vendor Emulex Corporation.
-\t\t\t{port}
+\t\t\t{ports[0]}
+
+\t\t{DASHES}
+
+\t\tPerform subsystem check for:
+\t\t{ports[1]}
+
+{storage}
+
+\t\tThis sub-system is consistent with controller specific reference-sub-system (only vendor-id was checked).
+\t\t\t{ports[1]}
+
+\t\tAll sub-systems are consistent with vendor specific reference-sub-system (only vendor-id was checked) 10:*.
+
+{DASHES}
+...
+\t\tSubsystem check already done => continue.
 {DASHES}
 
 {STARS}

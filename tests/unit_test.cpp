@@ -3,25 +3,19 @@
 #include "classify/classify.h"
 #include "classify/pairing.h"
 #include "inventory/adapter_list.h"
-#include "inventory/attributes.h"
 #include "inventory/report.h"
-#include "inventory/target_mapping.h"
 #include "run/base/diagnostics.h"
-#include "run/base/return_codes.h"
 #include "run/base/settings.h"
 #include "run/base/shell_command.h"
 #include "run/driver.h"
-#include "run/help.h"
 #include "tests/failing_library.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iomanip>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -38,85 +32,24 @@ TEST(Text, NumbersFollowTheLibraryButEndWithTheText) {
          {std::pair{"3x", -1}, {" \n", -1}, {"-5x", 1}, {" -5", -5}, {"--5", 5}}) {
         EXPECT_EQ(read(decimal, 10), number) << decimal;
     }
-    EXPECT_EQ(read("0x19A2", 16), 0x19a2);
     EXPECT_EQ(read("-80000000", 16), INT32_MIN);
     // Only the lower 32 bits count.
     EXPECT_EQ(read("1FFFFFFFF0001", 16), -0xffff);
 }
 
-// Reports that are read in a directory of their own.
-class Reports : public testing::Test {
-protected:
-    Reports() {
-        VerboseLevel = 0;
-        active_option_simulate = 1;
-        std::filesystem::create_directory(directory);
-        copy_text(pHBAWorkingPath, directory);
-    }
-    ~Reports() override {
-        release_hba_info_list();
-        std::filesystem::remove_all(directory);
-    }
-
-    // Makes a report of `title` and, in lines of their own, labels with themselves as the values.
-    void lay(const char* name, const char* title, const char* labels) const {
-        std::ofstream report(directory + "/" + name);
-        report << title;
-        for (const std::string_view label : split(labels, ',')) {
-            report << label << ": " << label << "\n";
-        }
-    }
-
+TEST(Reports, WhatWasReadBeforeAReadErrorStays) {
+    VerboseLevel = 0;
+    active_option_simulate = 1;
     const std::string directory = testing::TempDir() + "cnatool_test_" + std::to_string(getpid());
-};
-
-// A record has its texts in the order of the labels: they must be these, each cut to its field.
-void expect_texts(const void* record, std::size_t size, const char* labels) {
-    const char* text = static_cast<const char*>(record);
-    const char* const end = text + size;
-    for (const std::string_view label : split(labels, ',')) {
-        text = std::find_if(text, end, [](char c) { return c != '\0'; });
-        const std::string field(text, std::find(text, end, '\0'));
-        ASSERT_TRUE(!field.empty() && label.starts_with(field)) << field << " for " << label;
-        text += field.size();
-    }
-}
-
-TEST_F(Reports, EveryLabelFillsItsField) {
-    const char* labels = "Port WWN,Node WWN,Fabric Name,Current MAC,Flags,Host Name,Mfg,Serial No,"
-                         "Port Number,Mode,PCI Bus Number,PCI Function,Port Type,Model";
-    lay("local_hba_list.out", "", labels);
-    ASSERT_EQ(read_adapter_list(), 0);
-    hba_info& port = **p_hba_info_list;
-    expect_texts(&port, offsetof(hba_info, attributes), labels);
-
-    labels =
-        "Host Name,Manufacturer,Serial Number,Model,Model Desc,Node WWN,Node Symname,HW Version,"
-        "FW Version,Vendor Spec ID,Number of Ports,Driver Name,Device ID,HBA Type,Operational FW,"
-        "IEEE Address,PXE Boot,Driver Version,Board Temperature,Function Type,Sub Device ID,"
-        "Port Number,PCI Bus Number,PCI Func Number,Sub Vendor ID,Firmware Status,"
-        "Service Processor FW Name,ULP FW Name,IPL Filename,NCSI Version,"
-        "Start-up Boot Code Version,FCoE Universal Version,FCoE x86 BIOS Version,"
-        "FCoE EFI Version,FCoE FCODE Version,UEFI BIOS Version,UEFI NIC Version,"
-        "UEFI FCODE Version,UEFI iSCSI Version,PCI Express Link Speed,PCI Express Bus Width";
-    lay("Serial No_PCI_hba_attributes.out", "HBA Attributes for x\n", labels);
-    ASSERT_EQ(read_attributes(port, ""), 0);
-    expect_texts(port.attributes, offsetof(hba_attributes_entry, vendor_spec_id_val), labels);
-
-    labels = "FCP LUN,SCSI OS Lun,Lun Device Name,Vendor ID,Product ID,Product Version,Type,"
-             "SCSI Capacity,Block Size";
-    lay("Serial No_PCI_target_mapping.out", "Target Mapping for x\n\n\n\n", labels);
-    copy_text(port.port_type, "FCoE");
-    ASSERT_EQ(read_target_mapping(port, ""), 0);
-    expect_texts(port.target_mapping, sizeof(target_mapping_entry), labels);
-}
-
-TEST_F(Reports, WhatWasReadBeforeAReadErrorStays) {
-    lay("local_hba_list.out", "", "Port WWN");
+    copy_text(pHBAWorkingPath, directory);
+    std::filesystem::create_directory(directory);
+    std::ofstream(directory + "/local_hba_list.out") << "Port WWN: x\n";
     reading_fails = true;
     EXPECT_EQ(read_adapter_list(), report_not_opened);
     reading_fails = false;
     EXPECT_NE(p_hba_info_list, nullptr);
+    release_hba_info_list();
+    std::filesystem::remove_all(directory);
 }
 
 // For the record of a selection, of a condition, a subsystem, a port, its attributes and its
@@ -143,29 +76,6 @@ TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
                     std::string("^") + message + "Error: cnatool, Memory allocation failed!\n$")
             << records;
     }
-}
-
-TEST(Run, PrintedStatusesAreThoseOfTheEnumeration) {
-    std::ostringstream wanted;
-    wanted << "\nList of possible return codes\n\n   Valid return codes\n\n";
-#define STATUS(code) std::make_pair(#code, code)
-    for (const auto& [name, number] :
-         {STATUS(RET_OK), STATUS(RET_NOT_CTRL_WIDE_IDENTICAL),
-          STATUS(RET_NOT_CTRL_VENDOR_WIDE_IDENTICAL), STATUS(RET_BAD_CALL),
-          STATUS(RET_INVALID_CTRL_SUBSYSTEM_COMBINATION), STATUS(RET_FLASH_ERROR),
-          STATUS(RET_NO_FC_HBA_CONDITIONS_ENTRY), STATUS(RET_NO_MATCHING_CTRL_FOUND),
-          STATUS(RET_NO_FC_CTRL_INSTALLED), STATUS(RET_FC_HBA_CONDITIONS_MISSING),
-          STATUS(RET_INFOFILE_MISSING), STATUS(RET_FW_NOT_AVAILABLE),
-          STATUS(RET_SCLI_NOT_INSTALLED), STATUS(RET_KERNEL_MODULE_MISSING),
-          STATUS(RET_MEMALLOC_FAIL), STATUS(RET_FATAL_ERROR)}) {
-        wanted << "   " << std::left << std::setw(39) << name << std::right << std::setw(3)
-               << number << "\n";
-    }
-#undef STATUS
-    VerboseLevel = 1;
-    testing::internal::CaptureStdout();
-    print_return_codes("");
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), wanted.str() + "\n");
 }
 
 TEST(Shell, GetsEveryCharacterAsItIs) {

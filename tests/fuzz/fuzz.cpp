@@ -167,24 +167,16 @@ static std::vector<std::string> spoilt(const std::string& line) {
 
 int main() {
     std::size_t runs = 0;
-    const auto run = [&](const BladeFile& file, const std::string& content) {
-        run_with(file, content, ++runs);
-    };
     for (const BladeFile& file : blade) {
         const std::string& content = file.content;
         for (std::size_t length = 0; length < content.size(); ++length) {
-            run(file, content.substr(0, length));
+            run_with(file, content.substr(0, length), ++runs);
         }
-        const std::size_t kinds = spoilt("").size();
-        for (std::size_t kind = 0; kind < kinds; ++kind) {
-            std::string all;
-            for (const std::string_view line : split(content, '\n')) {
-                const auto start = static_cast<std::size_t>(line.data() - content.data());
-                const std::string bad = spoilt(std::string(line))[kind];
-                run(file, std::string(content).replace(start, line.size(), bad));
-                all += bad + "\n";
+        for (const std::string_view line : split(content, '\n')) {
+            const auto start = static_cast<std::size_t>(line.data() - content.data());
+            for (const std::string& bad : spoilt(std::string(line))) {
+                run_with(file, std::string(content).replace(start, line.size(), bad), ++runs);
             }
-            run(file, all);
         }
     }
     dprintf(STDERR_FILENO, "%zu runs\n", runs);
