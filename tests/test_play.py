@@ -122,4 +122,4 @@ def test_play(fleet, tmp_path):
                             lost="cnatool_flash=false")
     assert outcomes(table) == {
         "good": "flashed", "typo": "failed", "away": "up to date", "lost": "checked", "late": "flashed"}
-    assert "files of the set differ: ./fm10102-4.6.142.10.ufi" in table["typo"][-1]
+    assert "files differ: ./fm10102-4.6.142.10.ufi" in table["typo"][-1]
