@@ -169,8 +169,10 @@ def difference(text, output):
         ends = [at + place + count for place, other in enumerate(counts) if other == count]
         if count < len(block):
             at = max(ends, key=lambda end: difflib.SequenceMatcher(None, block[count], came[end]).ratio())
-            return [f"line {at} of {len(came) - 2}:", f"  wanted: {block[count]!r}", f"  came:   {came[at]!r}",
-                    *(f"          {line!r}" for line in came[at + 1:at + 3])]
+            shown = [repr(line).replace(r"'\n(end)'", "the end").replace(r"\n(end)", "")[:200]
+                     for line in (block[count], *came[at:at + 3])]
+            return [f"line {at} of {len(came) - 1}:", f"  wanted: {shown[0]}", f"  came:   {shown[1]}",
+                    *(f"          {line}" for line in shown[2:])]
         at = ends[0]
     return []
 

@@ -4,6 +4,7 @@ import fcntl
 import json
 import os
 import re
+import select
 import subprocess
 
 import pytest
@@ -309,7 +310,10 @@ def test_another_run_is_waited_for_unless_no_wait_is_given(cli):
         waiting = cli.start("script", ["-qec", f"{LSCNA_STANDIN} -C blade", "/dev/null"])
         seen = b""
         while b"waiting for another run" not in seen:
-            seen += os.read(waiting.stdout.fileno(), 1000)
+            assert select.select([waiting.stdout], [], [], 30)[0], f"It does not wait: {seen!r}"
+            came = os.read(waiting.stdout.fileno(), 1000)
+            assert came, f"It has ended: {seen!r}"
+            seen += came
     seen = waiting.communicate(timeout=60)[0]
     assert b"adapter list" in seen and b"port 5 of 11: target mapping" in seen and waiting.returncode == 1
 

@@ -25,9 +25,10 @@ def shell(blade, command):
     return blade.run("sh", ["-c", command])
 
 
-def wait_until(happened):
+def wait_until(happened, process):
     deadline = time.monotonic() + 30
     while not happened():
+        assert process.poll() is None, f"The program has ended with {process.returncode} before."
         assert time.monotonic() < deadline, "What this test waits for has not happened."
         time.sleep(0.01)
 
@@ -65,7 +66,7 @@ def test_daemon_of_the_cli_does_not_keep_the_turn(cli):
 
 def test_wait_for_a_turn_comes_after_what_was_said_and_ends_with_ctrl_c(cli, turn):
     run = cli.start(CNATOOL_STANDIN, "--conpath blade -v 3")
-    wait_until(lambda: re.search(rf"-> FLOCK .* {run.pid} ", Path("/proc/locks").read_text()))
+    wait_until(lambda: re.search(rf"-> FLOCK .* {run.pid} ", Path("/proc/locks").read_text()), run)
     os.set_blocking(run.stdout.fileno(), False)
     assert b"HBA conditions file: " in (run.stdout.read() or b"")
     run.send_signal(signal.SIGINT)
@@ -112,7 +113,7 @@ def test_ctrl_c_ends_a_run_whose_reader_has_stopped_reading(cli, call):
     cli.on(call, "dd if=/dev/zero of=pipe oflag=nonblock 2>/dev/null || :")
     run = cli.start("sh", ["-c", f"exec {REAL} {FLASH_FX} >pipe"])
     # The number of the call and its arguments: it waits in a call on descriptor 1.
-    wait_until(lambda: Path(f"/proc/{run.pid}/syscall").read_text().split()[1:2] == ["0x1"])
+    wait_until(lambda: Path(f"/proc/{run.pid}/syscall").read_text().split()[1:2] == ["0x1"], run)
     run.send_signal(signal.SIGINT)
     assert run.wait(30) == -signal.SIGINT
     os.close(reader)
@@ -261,7 +262,8 @@ class Terminal:
     def read_until(self, end):
         text = b""
         while end not in text:
-            assert select.select([self.screen], [], [], 30)[0], f"{end!r} does not come, but {text!r}."
+            ended = re.search(rb"=\d+\r\n", text)
+            assert not ended and select.select([self.screen], [], [], 30)[0], f"{end!r} does not come, but {text!r}."
             text += os.read(self.screen, 4096)
         return text
 

@@ -1,13 +1,15 @@
-// What rows over the program can't reach, or can't show why.
+// What no run of the program reaches, or shows the reason of.
 
 #include "classify/classify.h"
 #include "classify/pairing.h"
 #include "inventory/adapter_list.h"
 #include "inventory/report.h"
 #include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
 #include "run/base/settings.h"
 #include "run/base/shell_command.h"
 #include "run/driver.h"
+#include "run/help.h"
 #include "tests/failing_library.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +18,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -76,6 +79,29 @@ TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
                     std::string("^") + message + "Error: cnatool, Memory allocation failed!\n$")
             << records;
     }
+}
+
+TEST(Run, PrintedStatusesAreThoseOfTheEnumeration) {
+    std::ostringstream wanted;
+    wanted << "\nList of possible return codes\n\n   Valid return codes\n\n";
+#define STATUS(code) std::make_pair(#code, code)
+    for (const auto& [name, number] :
+         {STATUS(RET_OK), STATUS(RET_NOT_CTRL_WIDE_IDENTICAL),
+          STATUS(RET_NOT_CTRL_VENDOR_WIDE_IDENTICAL), STATUS(RET_BAD_CALL),
+          STATUS(RET_INVALID_CTRL_SUBSYSTEM_COMBINATION), STATUS(RET_FLASH_ERROR),
+          STATUS(RET_NO_FC_HBA_CONDITIONS_ENTRY), STATUS(RET_NO_MATCHING_CTRL_FOUND),
+          STATUS(RET_NO_FC_CTRL_INSTALLED), STATUS(RET_FC_HBA_CONDITIONS_MISSING),
+          STATUS(RET_INFOFILE_MISSING), STATUS(RET_FW_NOT_AVAILABLE),
+          STATUS(RET_SCLI_NOT_INSTALLED), STATUS(RET_KERNEL_MODULE_MISSING),
+          STATUS(RET_MEMALLOC_FAIL), STATUS(RET_FATAL_ERROR)}) {
+        wanted << "   " << std::left << std::setw(39) << name << std::right << std::setw(3)
+               << number << "\n";
+    }
+#undef STATUS
+    VerboseLevel = 1;
+    testing::internal::CaptureStdout();
+    print_return_codes("");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), wanted.str() + "\n");
 }
 
 TEST(Shell, GetsEveryCharacterAsItIs) {
