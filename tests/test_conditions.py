@@ -70,6 +70,7 @@ def test_ids_are_numbers_of_the_whole_values(blade):
 def test_refused_id(blade, column, value):
     blade.write(CONDITIONS, "|".join([*"xx1111"[:column], value]) + "\n")
     expect(blade.simulated(""), 55)
+    expect(blade.simulated("-d 1"), 55)
 
 
 # A value that selects is refused: cut, it would select more.
