@@ -113,8 +113,9 @@ def test_play(fleet, tmp_path):
     assert status == 0 and outcomes(table) == {"good": "up to date"} | dict.fromkeys(HOSTS[1:], "flashed")
     assert re.search(r"^good .*changed=0 ", said, re.M)
 
-    # Another set, a set whose files differ, a spare adapter, and one that is only checked.
+    # A set with another image, a set whose files differ, a spare adapter, and one that is only checked.
     typo.write_text((tmp_path / "sets/first" / CONDITIONS).read_text())
+    (typo.parent / "fm10102-4.6.142.10.ufi").write_text("newer")
     (fleet["typo"].directory / "first/fm10102-4.6.142.10.ufi").write_text("other")
     exchange_adapter(fleet["late"])
     exchange_adapter(fleet["lost"])
@@ -122,4 +123,4 @@ def test_play(fleet, tmp_path):
                             lost="cnatool_flash=false")
     assert outcomes(table) == {
         "good": "flashed", "typo": "failed", "away": "up to date", "lost": "checked", "late": "flashed"}
-    assert "files differ: ./fm10102-4.6.142.10.ufi" in table["typo"][-1]
+    assert "./fm10102-4.6.142.10.ufi differ, give" in table["typo"][-1]
