@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <span>
 #include <utility>
 
 namespace {
@@ -24,8 +25,9 @@ void list_ports(const char* lead) {
 }
 
 void remove_fibre_channel_ports() {
-    Slot kept = p_hba_info_list;
-    for (hba_info* port : all_ports()) {
+    const std::span<hba_info*> ports = all_ports();
+    Slot kept = ports.data();
+    for (hba_info* port : ports) {
         if (has_type(*port, "FC")) {
             release_hba_info_entry(port);
         } else {
