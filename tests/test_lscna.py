@@ -60,6 +60,7 @@ WELL = [
     ("no storage", (MAPPING, TITLE + "no target\n")),
     ("an allowed LUN before the judged one", (MAPPING, TITLE + "Vendor ID: DGC\nProduct ID: CX4-9\n" + STORAGE)),
     ("blank lines, which are no records with the same ids", (CONDITIONS, r"\Z", "\n\n \n---+--+---\n# a | b\n")),
+    ("ids of 0", (CONDITIONS, r"\Z", "E|M|0|0|0|0|x|x|f\n")),
     ("a long value that is kept and listed only", (CONDITIONS, "2012-11-05", "x" * 100)),
 ]
 
