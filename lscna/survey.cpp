@@ -297,27 +297,32 @@ const char* image_fault(const std::string& path) {
     return !S_ISREG(status.st_mode) ? "is no regular file" : status.st_size == 0 ? "is empty" : "";
 }
 
+// What is said beside a fault of the images where the model has no directory of its own.
+std::string missing_own_directory(const hba_info& port, const std::string& directory) {
+    return directory == pHBAFirmwarePath && *port.model != '\0'
+               ? format("; the model's own directory, %s%s, is not there", directory.c_str(),
+                        port.model)
+               : "";
+}
+
 void note_image(const SurveyedFlash& flash, const SurveyedImage& image, Notes& notes) {
     const hba_info& port = *flash.port;
     const std::string name = format("the %s image '%s' of %s", image.kind, image.pattern.c_str(),
                                     named(*flash.record).c_str());
-    const std::string directory = image_directory(port);
-    const std::string own = directory == pHBAFirmwarePath && *port.model != '\0'
-                                ? format("; the model's own directory, %s%s, is not there",
-                                         directory.c_str(), port.model)
-                                : "";
     if (image.pattern.empty()) {
         add_note(notes, port,
                  named(*flash.record) + " names no firmware image, so a flash ends with 20");
     } else if (image.files.empty()) {
+        const std::string directory = image_directory(port);
         add_note(notes, port,
                  format("no file in %s is %s, so a flash ends with 20%s", directory.c_str(),
-                        name.c_str(), own.c_str()));
+                        name.c_str(), missing_own_directory(port, directory).c_str()));
     } else if (image.files.size() > 1) {
         add_note(notes, port,
                  format("%s match %s, and a flash takes either: give a longer beginning of the "
                         "name, or move the others away%s",
-                        join(image.files).c_str(), name.c_str(), own.c_str()));
+                        join(image.files).c_str(), name.c_str(),
+                        missing_own_directory(port, image_directory(port)).c_str()));
     }
     for (const std::string& file : image.files) {
         if (const char* const fault = image_fault(file); *fault != '\0') {
