@@ -6,7 +6,6 @@
 #include "run/base/return_codes.h"
 #include "run/base/text_file.h"
 
-#include <cinttypes>
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
@@ -18,7 +17,6 @@ namespace {
 
 // The record that a data line becomes, while its columns are read.
 struct DataLine {
-    std::int64_t number; // in the file, for refusals
     fc_config_file_entry* entry;
     std::size_t column = 0;                    // the next one
     periphery_info_entry* subsystem = nullptr; // the last of the record's chain
@@ -29,8 +27,9 @@ void store_identifier(const ConditionsColumn& column, char* value, const DataLin
     const std::int32_t number = string2int(value, 16);
     if (number < 0) {
         if (DebugLevel > 0 && PrintDebugOnScreen != 0) {
-            std::fprintf(stderr, "\nError line %" PRId64 ": %s %s is not a valid hex value!\n",
-                         line.number, column.refused_name, column.field.of(*line.entry).data());
+            std::fprintf(stderr, "\nError line %d: %s %s is not a valid hex value!\n",
+                         line.entry->line, column.refused_name,
+                         column.field.of(*line.entry).data());
         }
         end_run(RET_FATAL_ERROR);
     }
@@ -44,8 +43,8 @@ bool fits(const char* value, std::size_t length_max, const char* refused_name,
     if (refused_name == nullptr || std::strlen(value) <= length_max) {
         return true;
     }
-    message(1, "\nError line %" PRId64 ": %s '%s' is too long (at most %zu characters)!\n",
-            line.number, refused_name, value, length_max);
+    message(1, "\nError line %d: %s '%s' is too long (at most %zu characters)!\n", line.entry->line,
+            refused_name, value, length_max);
     return false;
 }
 
@@ -102,7 +101,7 @@ std::int32_t store_column(char* value, DataLine& line) {
 }
 
 // Makes a record of a line that is no comment, unless it has no column.
-std::int32_t read_data_line(const char* text, std::int64_t number) {
+std::int32_t read_data_line(const char* text, std::int32_t number) {
     std::vector<std::string> values = column_values(text);
     if (values.empty()) {
         return RET_OK;
@@ -112,8 +111,8 @@ std::int32_t read_data_line(const char* text, std::int64_t number) {
         message(1, "Could not allocate memory for new fc_config_file entry.\n");
         return RET_MEMALLOC_FAIL;
     }
-    entry->line = static_cast<std::int32_t>(number);
-    DataLine line{number, entry};
+    entry->line = number;
+    DataLine line{entry};
     for (std::string& value : values) {
         if (const std::int32_t result = store_column(value.data(), line); result != RET_OK) {
             return result;
@@ -146,7 +145,7 @@ std::int32_t Read_FC_Config_File(const char* path) {
         return RET_FC_HBA_CONDITIONS_MISSING;
     }
     LineBuffer line;
-    for (std::int64_t number = 1; read_line(file, line); ++number) {
+    for (std::int32_t number = 1; read_line(file, line); ++number) {
         if (is_comment(line)) {
             continue;
         }
