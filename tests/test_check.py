@@ -233,7 +233,8 @@ def test_allowed_subsystems(blade, allowed, status, told):
     expect(only("Attached|eference subs", blade.simulated(FX)), status, told)
 
 
-@pytest.mark.parametrize("model, status", [("X,Marlovan_SX1_of_the_very_first_ed", 0), ("Marlovan_SX1_of_the_very_first_issue", 4)])
+@pytest.mark.parametrize("model, status", [("X,Marlovan_SX1_of_the_very_first_ed", 0),
+                                           ("Marlovan_SX1_of_the_very_first_issue", 4)])
 def test_models_and_products_are_compared_whole_however_long(blade, model, status):
     blade.edit("VM20713302_*_target_mapping.out", ("Marlovan_SX1", "Marlovan_SX1_of_the_very_first_edition"))
     blade.edit(CONDITIONS, (r"DGC \| Marlovan_CX \|", f"NRB|{model}|"))

@@ -88,6 +88,10 @@ def test_invalid_argument(blade, word):
     expect(blade.run(CNATOOL, [word, "--info"]), 3, f"\n\nInvalid argument '{word}' !\n")
 
 
+def test_message_is_cut_to_4095_characters(blade):
+    assert blade.run(CNATOOL, ["x" * 5000]) == (3, "\n\nInvalid argument '" + "x" * 4075)
+
+
 @pytest.mark.parametrize("words, status", [
     pytest.param(f"x{FM}", 0, id="pci-id"),
     pytest.param("x-vid 19A2 x-dev 714 x-subvid 1C3E x-subdev 11C1", 0, id="lists"),

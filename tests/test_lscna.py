@@ -100,13 +100,14 @@ CAUSES = [
     ("another model", (CONDITIONS, "10102-F(?=.*0714.*11C1)", "9"),
      "record 1 (line 21) has the ids 19A2:0714:1C3E:11C1, but is for Emulex CNA-9, not *: correct it, or add one"),
     ("no record, but another port's", (CONDITIONS, ".*0714.*11C1.*\n", ""),
-     "no record has *C1; if *, add: Emulex Corporation | CNA-10102-FM | * | x | x | | | x | x | DGC | Marlovan_CX1 | x"),
+     "no record has *C1; if *, add: Emulex Corporation | CNA-10102-FM | * | x | | | x | x | DGC | Marlovan_CX1 | x"),
     ("two records", (CONDITIONS, r"\Z", "E | M | 19A2 | 0714 | 1C3E | 11C1 | x\n"),
      "record 1 (line 21) and record 6 (line 26) have the same four ids: *"),
     ("no flash port", (LIST, "^(Serial.*VM1.*\nPort Number.*) .$", r"\1 3"), "*17, functions 0, 1, 2 and 3: *no f*"),
     ("a function twice", (LIST, r"(18\nPCI Function *: )1", r"\g<1>0"), "VM30550041, function 0: * is listed twice: *"),
     ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *"),
-    ("another model's directory", ("VM20713302_0_hba*", "11C2", "11C1"), "*02, function 0: no file in blade/CNA-10102-FX/ *"),
+    ("another model's directory", ("VM20713302_0_hba*", "11C2", "11C1"),
+     "*02, function 0: no file in blade/CNA-10102-FX/ *"),
     ("two images", ("CNA-10102-FX/x.ufi", ""),
      "*02, function 0: blade/*.ufi and blade/*.ufi match the firmware *\n  *, function 0: *x.ufi, *, is empty, *"),
     ("an empty image", (IMAGE, ""), f"*17, function 0: blade/{IMAGE}, *, is empty, and *"),
@@ -186,7 +187,8 @@ def test_each_verdict_has_its_reason(good):
 
 def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
     blade.remove("is*")
-    # A backslash, a quotation mark (read as a blank), a letter of two bytes, no UTF-8, an overlong slash, a surrogate, controls.
+    # A backslash, a quotation mark (read as a blank), a letter of two bytes, no UTF-8, an overlong slash, a surrogate,
+    # controls.
     vendor = b'\\\\"\xc3\xa4\xff\xc0\xaf\xed\xa0\x80\x01\x7f'.decode("utf-8", "surrogateescape")
     blade.edit("VM20713302_2_target_mapping.out", ("NRB", vendor))
     blade.edit("VM20713302_2_hba_attributes.out", ("^(Operational FW.*) .*", r"\1"))
@@ -199,7 +201,8 @@ def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
         "mac": "00:00:c9:b2:00:02", "bus": "15", "firmware": "4.6.142.10"}
     assert answer["ports"][1:3] == [fn1, fn1 | {
         "fn": "2", "port": "0", "type": "FCoE", "wwn": "10:00:00:00:c9:b2:00:11", "mac": None, "record": 2, "line": 22,
-        "storage": {"vendor": "\\ \xe4\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd\x01\x7f", "product": "Marlovan_SX1", "version": "7.12"},
+        "storage": {"vendor": "\\ \xe4\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd\x01\x7f", "product": "Marlovan_SX1",
+                    "version": "7.12"},
         "pci-id": "19A2:0714:1C3E:11C2", "verdict": "not allowed",
         "reason": "record 2 (line 22) allows DGC Marlovan_CX"}]
     image = "blade/CNA-10102-FX/fx-"

@@ -202,15 +202,19 @@ def in_a_long_directory(blade, length):
     return str(directory)
 
 
-def test_report_of_a_command_that_is_too_long_is_empty(cli):
-    report = "VM20713302_2_hba_attributes.out"
+@pytest.mark.parametrize("length, code, calls", [
+    pytest.param(936, 0, 17, id="1023-characters"),
+    pytest.param(937, -1, 12, id="1024-characters"),
+])
+def test_report_of_a_command_that_is_too_long_is_empty(cli, length, code, calls):
+    """The commands of the target mapping are the longest ones."""
+    report = "VM20713302_2_target_mapping.out"
     (cli.files / report).write_text(cli.read(report))
-    directory = in_a_long_directory(cli, 963)
+    directory = in_a_long_directory(cli, length)
     result = cli.run(CNATOOL_STANDIN, ["--conpath", directory, "-v", "6", *FX.split()])
-    assert 'hbaattributes 10:00:00:00:c9:b2:00:11" command returned code -1.' in result.output
+    assert f'targetmapping 10:00:00:00:c9:b2:00:11" command returned code {code}.' in result.output
     assert f"Could not open file {directory}//{report}" not in result.output
-    assert (cli.directory / directory / report).read_text() == ""
-    assert cli.calls == ["listhbas"]
+    assert len(cli.calls) == calls and bool((cli.directory / directory / report).read_text()) == (code == 0)
 
 
 @pytest.mark.parametrize("length, status, text", [
