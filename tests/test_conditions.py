@@ -104,7 +104,7 @@ def test_no_file_in_its_place(blade, lay):
 
 
 def test_read_error(blade):
-    """A process's memory is a regular file; its beginning can't be read."""
+    """A process's memory can be opened, but its beginning can't be read."""
     blade.remove(CONDITIONS)
     blade.path(CONDITIONS).symlink_to("/proc/self/mem")
     expect(blade.simulated(""), 55, "Error: Fatal error!")

@@ -67,6 +67,13 @@ def test_report_that_cannot_be_opened_ends_the_inventory(cli, call, file, calls,
     assert cli.calls == CALLS[:calls]
 
 
+def test_report_that_cannot_be_read_to_its_end(blade):
+    """A process's memory can be opened, but its beginning can't be read."""
+    blade.remove(MAPPING)
+    blade.path(MAPPING).symlink_to("/proc/self/mem")
+    expect(blade.simulated(FM), 0, f"Error: Could not open file blade//{MAPPING}\n...")
+
+
 # The lines of the reports. A value begins two characters after the colon, without the blanks and quotes around it.
 
 
