@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstdio>
+#include <filesystem>
 #include <new>
 #include <sstream>
 #include <string>
@@ -42,8 +43,10 @@ TEST(Text, NumbersFollowTheLibraryButEndWithTheText) {
 }
 
 // For the record of a selection, of a condition, a subsystem, a port, its attributes and its
-// target mapping. The example has eleven ports.
+// target mapping. The example has eleven ports; a broken program could overwrite its reports.
 TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
+    const auto blade = testing::TempDir() + "cnatool_unit_tests_" + std::to_string(getpid());
+    std::filesystem::copy("examples/blade", blade, std::filesystem::copy_options::recursive);
     for (const auto& [records, message] :
          {std::pair{0, ""},
           {1, "Could not allocate memory for new fc_config_file entry.\n"},
@@ -51,12 +54,12 @@ TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
           {10, ""},
           {10 + 11, ""},
           {10 + 11 + 11, ""}}) {
-        const auto run = [count = records] {
-            std::string words[] = {"./cnatool",      "--simulate", "--conpath",
-                                   "examples/blade", "-pci-id",    "1:2"};
+        const auto run = [&blade, count = records] {
+            std::string words[] = {"./cnatool", "--simulate", "--conpath", ".", "-pci-id", "1:2"};
             char* argv[std::size(words)];
             std::transform(std::begin(words), std::end(words), argv,
                            [](auto& word) { return word.data(); });
+            std::filesystem::current_path(blade);
             dup2(STDERR_FILENO, STDOUT_FILENO);
             records_left = count;
             std::exit(run_tool(std::size(words), argv));
@@ -65,6 +68,7 @@ TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
                     std::string("^") + message + "Error: cnatool, Memory allocation failed!\n$")
             << records;
     }
+    std::filesystem::remove_all(blade);
 }
 
 TEST(Shell, GetsEveryCharacterAsItIs) {
