@@ -31,7 +31,8 @@ FLASH_FM, FLASH_FX = "--flash -pci-id 19A2:0700:1C3E:11C1", "--flash -pci-id 19A
 FLASH_BOTH = "--flash -pci-id 19A2:0700"
 CONDITIONS, LIST = "FC_HBA_Conditions.txt", "local_hba_list.out"
 # What gives the records of the FCoE ports images as well, so that a selection of these ports flashes.
-FCOE_IMAGES = [(r"(11C1 \| FCoE.*PCIe \|) +", r"\1 fm10102- "), (r"(11C2 \| FCoE.*PCIe \|) +", r"\1 *.ufi ")]
+FCOE_IMAGES = [(r"(11C1 \| FCoE.*PCIe \|) +", r"\1 fm10102- "),
+               (r"(11C2 \| FCoE.*PCIe \|) +\| +", r"\1 *.ufi | *.grp ")]
 
 ENVIRONMENT = {
     "PATH": "/usr/bin:/bin", "LC_ALL": "C",

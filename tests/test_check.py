@@ -52,7 +52,7 @@ def test_differing_ports_are_enough_for_valid_storage(blade):
 
 def test_differing_ports_are_told(blade):
     fm_ports_differ(blade)
-    expect(blade.simulated(f"-v 3 --ctrl-wide-identical {FM}"), 1, """\
+    expect(blade.simulated(f"-v 6 --ctrl-wide-identical {FM}"), 1, """\
 ...
 \t\tThis sub-system differs from controller specific reference-sub-system.
 \t\t\tVendor: *PCI function: 3
@@ -60,11 +60,15 @@ def test_differing_ports_are_told(blade):
 vendor specific reference-sub-system 0 >DGC< >DGC<.
 \t\tAt least one*
 ...
-OverallSubSystemCheck returned: 0 """)
+OverallSubSystemCheck returned: 0\x20
+*: 0\x20
+*: 1\x20
+CtrlVendorSpecificSubsystemEquality: 0\x20
+CtrlSpecificSubsystemEquality: 0 """)
 
 
 def test_differing_adapters_are_told(blade):
-    expect(blade.simulated(f"-v 3 --ctrl-vendor-wide-identical {BOTH}"), 2, """\
+    expect(blade.simulated(f"-v 6 --ctrl-vendor-wide-identical {BOTH}"), 2, """\
 ...
 vendor specific reference-sub-system 1 >NRB< >DGC<.
 \t\tAt least one sub-system differs from vendor specific reference-sub-system (different vendors).
@@ -73,7 +77,8 @@ vendor specific reference-sub-system 1 >NRB< >DGC<.
 ...
 vendor specific reference-sub-system 0 >NRB< >DGC<.
 ...
-OverallSubSystemCheck returned: 0 """)
+CtrlVendorSpecificSubsystemEquality: 0\x20
+CtrlSpecificSubsystemEquality: 1 """)
 
 
 # The first check that is asked for, in this order, decides about the flash; the status is that of the last one.
@@ -181,7 +186,8 @@ def test_first_port_does_not_end_the_walk(blade, file, change, told):
 
 def test_port_without_storage_is_told(blade):
     blade.write("VM10250117_2_target_mapping.out")
-    expect(blade.simulated(f"-v 1 {FM}"), 0, f"...\n{FUNCTION_2}\n\n\n\t\t---------+*\n...")
+    expect(blade.simulated(f"-v 4 {FM}"), 0, f"...\n{FUNCTION_2}\n\n\n\t\t---------+*\n...\n"
+           f"{FUNCTION_2}\n\t\tSubsystem check already done => continue.\n...")
 
 
 def test_ports_come_into_their_order_before_they_are_chained(blade):

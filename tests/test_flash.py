@@ -4,7 +4,7 @@ import signal
 
 import pytest
 
-from conftest import CNATOOL_STANDIN, CONDITIONS, FCOE_IMAGES, FLASH_BOTH, FLASH_FM, FLASH_FX, FM, LIST, expect
+from conftest import CNATOOL_STANDIN, CONDITIONS, FCOE_IMAGES, FLASH_BOTH, FLASH_FM, FLASH_FX, FX, LIST, expect
 
 FM_FIRMWARE = "download [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]"
 FX_FIRMWARE = "download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]"
@@ -48,7 +48,7 @@ def test_whole_flash_of_one_adapter(cli):
 
 @pytest.mark.parametrize("words, calls", [
     pytest.param(FLASH_BOTH, [FX_FIRMWARE, FX_BIOS, FM_FIRMWARE], id="in-the-order-of-the-flash-ports"),
-    pytest.param(f"--flash {FM}", [FM_FIRMWARE] * 2, id="again-for-each-function-but-the-flash-port"),
+    pytest.param(f"--flash {FX}", [FX_FIRMWARE, FX_BIOS] * 2, id="again-for-each-function-but-the-flash-port"),
 ])
 def test_downloads(cli, words, calls):
     cli.edit(CONDITIONS, *FCOE_IMAGES)

@@ -143,9 +143,10 @@ def test_number_of_more_than_64_bits(blade):
     # The title has four lines; storage begins with the next one that has a colon.
     pytest.param("1\n2\n3\nVendor ID: NRB\nType Disk\n", 0, "", id="title"),
     pytest.param("1\n2\n3\n4\nType Disk\nVendor ID: NRB\n", 4, "\t\t\tNRB\n", id="after-the-title"),
-    pytest.param("\n\n\n\nSCSI: x\nType\nSCSI OS Lun: 123456\nProduct ID: Marlovan_CX1\n"
-                 "Vendor ID: X\nVendor ID: DGC\nVendor ID\n", 0,
-                 "\t\t\t\n\t\t\t1234\n\t\t\tMarlovan_CX1\n\t\t\tX\n\t\t\tDGC\n\t\t\tDGC\n", id="last-LUN-counts"),
+    pytest.param("\n\n\n\nSCSI: x\nType\nSCSI OS Lun: 123456\nType: x\nType:\nProduct ID: Marlovan_CX1\n"
+                 "Vendor ID: X\nVendor ID: DGC\nVendor ID\n", 0, "".join(
+                     f"\t\t\t{text}\n" for text in ["", "1234", "x", "", "Marlovan_CX1", "X", "DGC", "DGC"]),
+                 id="last-LUN-counts"),
 ])
 def test_lines_of_the_target_mapping(blade, lines, status, text):
     blade.write(MAPPING, lines)

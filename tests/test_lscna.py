@@ -59,8 +59,9 @@ WELL = [
     ("storage that is allowed", (MAPPING, TITLE + STORAGE)),
     ("no storage", (MAPPING, TITLE + "no target\n")),
     ("an allowed LUN before the judged one", (MAPPING, TITLE + "Vendor ID: DGC\nProduct ID: CX4-9\n" + STORAGE)),
-    ("blank lines, which are no records with the same ids", (CONDITIONS, r"\Z", "\n\n \n---+--+---\n# a | b\n")),
-    ("ids of 0", (CONDITIONS, r"\Z", "E|M|0|0|0|0|x|x|f\n")),
+    ("blank lines, which are no records with the same ids", (CONDITIONS, r"\Z", "\n\n \n---+--+---\nx # a | b\n")),
+    ("ids of 0, and nothing behind them", (CONDITIONS, r"\Z", "E|M|0|0|0|0\n")),
+    ("the longest line that is read whole", (CONDITIONS, r"\Z", f"{'#':1022}\n")),
     ("a long value that is kept and listed only", (CONDITIONS, "2012-11-05", "x" * 100)),
 ]
 
@@ -140,7 +141,7 @@ MISTAKES = [
     ("\xef\xbb\xbf#\r\n#\0\n#\r\n", ["2: NUL bytes*", "1: a byte order mark*", "1: a carriage return*"]),
     ("# %01022d\n" % 0, ["1: a line of more than 1023 characters*", "1: no bar*"]),
     ("\n# a | b\n---+--+\nE | 1 # b\n", ["4: a number sign makes the whole line a comment*"]),
-    ("E|M|1|2|3\n\nE M\n", ["1: a record without all four ids*", "3: no bar*"]),
+    ("a line of words and no bar\n\nE|M|1|2|3\n", ["1: no bar*", "3: a record without all four ids*"]),
     ("E|M|1|2|3|4|x|x|f|b|x|x|D|A, B\nE|M|1|2|3|5|x|x|f|b|x|x|D|A|x|D|A ,B\n",
      ["1: a blank beside a comma becomes part of a model in 'A, B': *", "2: a blank * 'A ,B': *"]),
     ("%020d|M|1|2|3|4|x|x|f|b|x|x|%010d\n" % (0, 0),
@@ -280,7 +281,7 @@ def listed(cli, words=""):
 
 
 @pytest.mark.parametrize("command, action, ending", [
-    ("hbaattributes", "cat cli/reports/VM10250117_2_hba*; exit 3", "exit status 3"),
+    ("hbaattributes", "cat cli/reports/VM10250117_2_hba*; exit 128", "exit status 128"),
     ("targetmapping", "cat cli/reports/VM10250117_2_t*; kill -9 $$", "signal 9"),
 ])
 def test_a_port_whose_command_failed_is_not_known_though_its_report_looks_whole(cli, command, action, ending):
@@ -309,7 +310,8 @@ def test_a_list_that_can_not_be_made(cli):
 def test_another_run_is_waited_for_unless_no_wait_is_given(cli):
     with open(cli.directory / "hbacmd") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
-        expect(listed(cli, "--no-wait"), 2, "lscna: another run uses the vendor's CLI")
+        for option in "-n", "--no-wait":
+            expect(listed(cli, option), 2, "lscna: another run uses the vendor's CLI")
         # Someone at a terminal sees what is waited for.
         waiting = cli.start("script", ["-qec", f"{LSCNA_STANDIN} -C blade", "/dev/null"])
         seen = b""

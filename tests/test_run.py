@@ -272,7 +272,8 @@ class Terminal:
         return text
 
 
-def test_line_at_the_terminal(cli, turn):
+def test_line_at_the_terminal_and_the_turn_after_the_wait(cli, turn):
+    cli.on("listhbas1", "flock -n hbacmd true && exit 9 || :")
     terminal = Terminal(cli, f"{REAL} {FLASH_FX}")
     text = terminal.read_until(b"waiting for another run\r")
     assert not (cli.directory / "cli/calls.log").exists()
