@@ -84,7 +84,8 @@ CAUSES = [
         blade.edit(CONDITIONS, (".*0714.*11C1.*\n", ""))),), "no record has 19A2:0714:1C3E:11C1; if its storage *"),
     ("an empty report", (MAPPING, ""), "*17, function 2: its target-mapping report has no title with *:11: *"),
     ("another port's report", (MAPPING, ":11$", ":12"), "*17, function 2: its target-mapping report has no title *"),
-    ("no attributes", ("VM10250117_3_hba_attributes.out", "ERROR"), "*17, function 3: its attributes report has no *"),
+    ("no attributes of two adapters", ("VM*_3_hba_attributes.out", "(?s).+", "ERROR"),
+     "*02, function 3: its attributes report has no *\n  *17, function 3: its attributes report has no *"),
     ("a bad id", ("VM10250117_3_hba_attributes.out", "0714", "071G"), "*17, function 3: *one that is not hexadecimal"),
     ("no serial number", (LIST, "^(Serial.*)VM1.*", r"\1n/a"), "n/a, functions 2 and 3: no serial number, *"),
     ("no report", (removed("VM10250117_0_hba*"),), "the inventory ended at blade//VM10250117_0_hba_attributes.out, *"),
@@ -104,7 +105,6 @@ CAUSES = [
      "no record has *C1; if *, add: Emulex Corporation | CNA-10102-FM | * | x | | | x | x | DGC | Marlovan_CX1 | x"),
     ("two records", (CONDITIONS, r"\Z", "E | M | 19A2 | 0714 | 1C3E | 11C1 | x\n"),
      "record 1 (line 21) and record 6 (line 26) have the same four ids: *"),
-    ("no flash port", (LIST, "^(Serial.*VM1.*\nPort Number.*) .$", r"\1 3"), "*17, functions 0, 1, 2 and 3: *no f*"),
     ("a function twice", (LIST, r"(18\nPCI Function *: )1", r"\g<1>0"), "VM30550041, function 0: * is listed twice: *"),
     ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *"),
     ("another model's directory", ("VM20713302_0_hba*", "11C2", "11C1"),
@@ -128,6 +128,17 @@ CAUSES = [
 def test_a_cause_is_one_line(good, what, note):
     change(good, *what)
     expect(simulated(good), 1, f"{NOTES}  {note}")
+
+
+def test_an_adapter_without_a_flash_port_is_noted_whatever_is_selected(good):
+    good.edit(LIST, ("^(Serial.*VM1.*\nPort Number.*) .$", r"\1 3"))
+    expect(simulated(good, "-p 19A2:0714:1C3E:11C2"), 1, f"{NOTES}  *17, functions 0, 1, 2 and 3: *no flash port*")
+
+
+def test_a_flash_that_lacks_an_image_is_not_listed(good):
+    good.remove("CNA-10102-FX/*.grp")
+    expect(simulated(good), 1, "...\nA flash would write:\n  *17, function 0*\n  *41, function 0*\n\nTo look at:\n"
+           "  *02, function 0: no file in blade/CNA-10102-FX/ is the BIOS image *")
 
 
 @pytest.mark.parametrize("serial", ["VM102", ""])
@@ -215,7 +226,8 @@ def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
          "firmware": {"pattern": "is10102-", "files": []}}]
     assert answer["notes"][0] == {"adapter": "VM20713302", "functions": ["1"], "text": answer["notes"][0]["text"]}
     # A terminal gets no byte that could change it.
-    assert "\\ ?????????? Marlovan_SX1" in simulated(blade).output
+    screen = simulated(blade).output
+    assert "\\ ?????????? Marlovan_SX1" in screen and not re.search("[^\n -~]", screen)
 
 
 @pytest.mark.parametrize("words, status, notes", [
