@@ -113,14 +113,26 @@ def test_play(fleet, tmp_path):
     assert status == 0 and outcomes(table) == {"good": "up to date"} | dict.fromkeys(HOSTS[1:], "flashed")
     assert re.search(r"^good .*changed=0 ", said, re.M)
 
-    # A set with another image, a set whose files differ, a spare adapter, and one that is only checked.
+    # A set with another image, a set whose files differ, storage that differs in the two ways, a spare adapter that is
+    # only checked, and one whose image changes after the plan.
     typo.write_text((tmp_path / "sets/first" / CONDITIONS).read_text())
     (typo.parent / "fm10102-4.6.142.10.ufi").write_text("newer")
     (fleet["typo"].directory / "first/fm10102-4.6.142.10.ufi").write_text("other")
+    (fleet["typo"].directory / "first/old.ufi").write_text("old")
+    for host, ports in ("bare", "3"), ("storage", "?"):
+        fleet[host].edit(f"VM10250117_{ports}_target_mapping.out", (": DGC", ": NRB"), ("_CX1", "_SX1"))
     exchange_adapter(fleet["late"])
     exchange_adapter(fleet["lost"])
-    status, table, _ = play(tmp_path, "--limit", "good,typo,away,lost,late", good=f"cnatool_set={typo.parent}",
-                            lost="cnatool_flash=false")
-    assert outcomes(table) == {
-        "good": "flashed", "typo": "failed", "away": "up to date", "lost": "checked", "late": "flashed"}
-    assert "./fm10102-4.6.142.10.ufi differ, give" in table["typo"][-1]
+    (fleet["late"].directory / "cli/calls.log").unlink()
+    fleet["late"].on("download1", ":")
+    fleet["late"].on("listhbas3", "mv first/fm*.ufi first/fm10102-new")
+    status, table, _ = play(tmp_path, "--limit", "!halfway", good=f"cnatool_set={typo.parent}",
+                            lost="cnatool_flash=false", storage="cnatool_check=--ctrl-vendor-wide-identical")
+    assert outcomes(table) == {"good": "flashed", "typo": "failed", "storage": "left out", "away": "up to date",
+                               "bare": "left out", "lost": "checked", "late": "failed"}
+    for host, reason in {
+        "typo": "(?=.* ./fm10102-4.6.142.10.ufi)(?=.* ./old.ufi).* differ, give",
+        "late": "not as planned: .*fm10102-new", "bare": "VM10250117, function 3 sees NRB Marlovan_SX1",
+        "storage": "VM10250117, function 2 sees NRB Marlovan_SX1",
+    }.items():
+        assert re.search(reason, table[host][-1])
