@@ -106,7 +106,8 @@ CAUSES = [
     ("two records", (CONDITIONS, r"\Z", "E | M | 19A2 | 0714 | 1C3E | 11C1 | x\n"),
      "record 1 (line 21) and record 6 (line 26) have the same four ids: *"),
     ("a function twice", (LIST, r"(18\nPCI Function *: )1", r"\g<1>0"), "VM30550041, function 0: * is listed twice: *"),
-    ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *"),
+    ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *, so a flash "
+     "ends with 20; the model's own directory, blade/CNA-10102-FM, is not there"),
     ("another model's directory", ("VM20713302_0_hba*", "11C2", "11C1"),
      "*02, function 0: no file in blade/CNA-10102-FX/ *"),
     ("two images", ("CNA-10102-FX/x.ufi", ""),
@@ -199,9 +200,9 @@ def test_each_verdict_has_its_reason(good):
 
 def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
     blade.remove("is*")
-    # A backslash, a quotation mark (read as a blank), a letter of two bytes, no UTF-8, an overlong slash, a surrogate,
-    # controls.
-    vendor = b'\\\\"\xc3\xa4\xff\xc0\xaf\xed\xa0\x80\x01\x7f'.decode("utf-8", "surrogateescape")
+    # A backslash, a quotation mark (read as a blank), the first character of two bytes, no UTF-8, an overlong slash, a
+    # surrogate, controls.
+    vendor = b'\\\\"\xc2\x80\xff\xc0\xaf\xed\xa0\x80\x01\x7f'.decode("utf-8", "surrogateescape")
     blade.edit("VM20713302_2_target_mapping.out", ("NRB", vendor))
     blade.edit("VM20713302_2_hba_attributes.out", ("^(Operational FW.*) .*", r"\1"))
     blade.edit("VM20713302_1_hba_attributes.out", ("^(FW Version.*) .*", r"\1 old"), ("^(Sub Device.*) .*", r"\1 ?"))
@@ -213,7 +214,7 @@ def test_json_holds_what_is_known_whatever_bytes_the_reports_hold(blade):
         "mac": "00:00:c9:b2:00:02", "bus": "15", "firmware": "4.6.142.10"}
     assert answer["ports"][1:3] == [fn1, fn1 | {
         "fn": "2", "port": "0", "type": "FCoE", "wwn": "10:00:00:00:c9:b2:00:11", "mac": None, "record": 2, "line": 22,
-        "storage": {"vendor": "\\ \xe4\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd\x01\x7f", "product": "Marlovan_SX1",
+        "storage": {"vendor": "\\ \x80\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd\x01\x7f", "product": "Marlovan_SX1",
                     "version": "7.12"},
         "pci-id": "19A2:0714:1C3E:11C2", "verdict": "not allowed",
         "reason": "record 2 (line 22) allows DGC Marlovan_CX"}]
