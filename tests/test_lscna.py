@@ -106,8 +106,8 @@ CAUSES = [
     ("two records", (CONDITIONS, r"\Z", "E | M | 19A2 | 0714 | 1C3E | 11C1 | x\n"),
      "record 1 (line 21) and record 6 (line 26) have the same four ids: *"),
     ("a function twice", (LIST, r"(18\nPCI Function *: )1", r"\g<1>0"), "VM30550041, function 0: * is listed twice: *"),
-    ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *, so a flash "
-     "ends with 20; the model's own directory, blade/CNA-10102-FM, is not there"),
+    ("no image", (removed(IMAGE),), "*17, function 0: no file in blade/ is the firmware image * of record 3 *, so a "
+     "flash ends with 20; the model's own directory, blade/CNA-10102-FM, is not there"),
     ("another model's directory", ("VM20713302_0_hba*", "11C2", "11C1"),
      "*02, function 0: no file in blade/CNA-10102-FX/ *"),
     ("two images", ("CNA-10102-FX/x.ufi", ""),
@@ -168,9 +168,9 @@ def test_a_mistake_in_the_conditions_file_is_noted_with_its_line(blade, content,
 
 
 def test_a_refused_conditions_file_is_the_reason_of_every_port(good):
-    good.edit(CONDITIONS, ("(0714.*)11C1", r"\g<1>11G1"))
+    good.edit(CONDITIONS, ("(0714.*)11C2", r"\g<1>11G2"))
     assert {port["verdict"] for port in found(good)["ports"]} == {None, "not judged"}
-    expect(simulated(good), 1, f"""{NOTES}  blade/{CONDITIONS}:21: subdevice id '11G1' is not hexadecimal
+    expect(simulated(good), 1, f"""{NOTES}  blade/{CONDITIONS}:22: subdevice id '11G2' is not hexadecimal
   blade/{CONDITIONS}: cnatool refuses the file with 55, *""")
 
 
