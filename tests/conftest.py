@@ -147,9 +147,10 @@ def cli(tmp_path):
 
 
 def expect(result, status, text=""):
-    """Compares a result with a status and with all that is printed, to its end; without a text that is nothing.
+    """Compares a result with a status and with all that is printed; without a text that is nothing.
 
-    In a line of the text a single "*" stands for any text; a line "..." stands for any lines."""
+    In a line of the text a single "*" stands for any text; a line "..." stands for any lines. The newline that ends
+    the output is not part of the text."""
     __tracebackhide__ = True
     told = difference(text, result.output)
     if result.status != status:

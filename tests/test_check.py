@@ -81,6 +81,12 @@ CtrlVendorSpecificSubsystemEquality: 0\x20
 CtrlSpecificSubsystemEquality: 1 """)
 
 
+def test_adapters_are_compared_with_the_first_one(blade):
+    blade.edit("VM20713302_*_target_mapping.out", (": NRB", ": DGC"), ("_SX1", "_CX1"))
+    consistent = "\t\tAll sub-systems are consistent * 10:00:00:00:c9:b2:00:11."
+    expect(only("vendor specific", blade.simulated(f"-v 2 {BOTH}")), 0, "\n".join([consistent] * 3))
+
+
 # The first check that is asked for, in this order, decides about the flash; the status is that of the last one.
 
 FLASH, NO_FLASH = "...\n\tNow start flashing the firmware.\n...", "...\nOverallSubSystemCheck returned: 0 "

@@ -156,8 +156,10 @@ MISTAKES = [
     ("a line of words and no bar\n\nE|M|1|2|3\n", ["1: no bar*", "3: a record without all four ids*"]),
     ("E|M|1|2|3|4|x|x|f|b|x|x|D|A, B\nE|M|1|2|3|5|x|x|f|b|x|x|D|A|x|D|A ,B\n",
      ["1: a blank beside a comma becomes part of a model in 'A, B': *", "2: a blank * 'A ,B': *"]),
-    ("%020d|M|1|2|3|4|x|x|f|b|x|x|%010d\n" % (0, 0),
-     ["1: vendor '0*0' is longer than 19 characters", "1: storage vendor '0*' is longer than 9 characters"]),
+    ("%020d|%020d|1|2|3|4|x|x|%080d|%080d|x|x|%010d\n" % (0, 0, 0, 0, 0),
+     ["1: vendor '0*0' is longer than 19 characters", "1: model '0*' is longer than 19 characters",
+      "1: firmware image '0*' is longer than 79 characters", "1: BIOS image '0*' is longer than 79 characters",
+      "1: storage vendor '0*' is longer than 9 characters"]),
 ]
 
 
@@ -272,7 +274,8 @@ def test_an_fcoe_flash_port_without_a_record_has_one_note(good):
     ("-s -C blade -p -1", 2, "lscna: --pci-id: the list begins with a minus sign"),
     (f"-s -C blade -p {'1' * 1024}", 2, "lscna: --pci-id: the list is too long"),
     ("-C blade", 2, "lscna: the vendor's CLI, /*, is not installed"),
-])
+], ids=["version", "unknown-option", "no-option", "empty-directory", "in-JSON", "long-directory", "no-directory",
+        "no-list", "minus-sign", "long-list", "no-CLI"])
 def test_the_command_line(blade, words, status, text):
     expect(blade.run(LSCNA, words), status, text)
 
