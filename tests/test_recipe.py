@@ -127,9 +127,12 @@ def test_messages_that_are_lost(blade):
     ("download1", os.kill, ALL_WELL),
 ], ids=["check", "download", "download-recipe-alone"])
 def test_signal(blade, call, send, ends):
-    blade.on(call, "touch reached; sleep 0.5")
+    os.mkfifo(blade.directory / "go-on")
+    blade.on(call, "touch reached; read -r _ <go-on")
     process = start(blade)
     while not (blade.directory / "reached").exists() and process.poll() is None:
         time.sleep(0.01)
     send(process.pid, signal.SIGTERM)
-    assert end(blade, process) == ends
+    with open(blade.directory / "go-on", "r+b", buffering=0) as go_on:
+        go_on.write(b"\n")
+        assert end(blade, process) == ends
