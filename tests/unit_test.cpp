@@ -4,9 +4,11 @@
 #include "classify/pairing.h"
 #include "inventory/hba_info.h"
 #include "run/base/diagnostics.h"
+#include "run/base/return_codes.h"
 #include "run/base/settings.h"
 #include "run/base/shell_command.h"
 #include "run/driver.h"
+#include "run/help.h"
 
 #include <gtest/gtest.h>
 
@@ -14,6 +16,7 @@
 #include <climits>
 #include <cstdio>
 #include <filesystem>
+#include <iomanip>
 #include <new>
 #include <sstream>
 #include <string>
@@ -69,6 +72,29 @@ TEST(Run, ExhaustedMemoryEndsItWithAMessage) {
             << records;
     }
     std::filesystem::remove_all(blade);
+}
+
+TEST(Run, PrintedStatusesAreThoseOfTheEnumeration) {
+    std::ostringstream wanted;
+    wanted << "\nList of possible return codes\n\n   Valid return codes\n\n";
+#define STATUS(code) std::make_pair(#code, code)
+    for (const auto& [name, number] :
+         {STATUS(RET_OK), STATUS(RET_NOT_CTRL_WIDE_IDENTICAL),
+          STATUS(RET_NOT_CTRL_VENDOR_WIDE_IDENTICAL), STATUS(RET_BAD_CALL),
+          STATUS(RET_INVALID_CTRL_SUBSYSTEM_COMBINATION), STATUS(RET_FLASH_ERROR),
+          STATUS(RET_NO_FC_HBA_CONDITIONS_ENTRY), STATUS(RET_NO_MATCHING_CTRL_FOUND),
+          STATUS(RET_NO_FC_CTRL_INSTALLED), STATUS(RET_FC_HBA_CONDITIONS_MISSING),
+          STATUS(RET_INFOFILE_MISSING), STATUS(RET_FW_NOT_AVAILABLE),
+          STATUS(RET_SCLI_NOT_INSTALLED), STATUS(RET_KERNEL_MODULE_MISSING),
+          STATUS(RET_MEMALLOC_FAIL), STATUS(RET_FATAL_ERROR)}) {
+        wanted << "   " << std::left << std::setw(39) << name << std::right << std::setw(3)
+               << number << "\n";
+    }
+#undef STATUS
+    VerboseLevel = 1;
+    testing::internal::CaptureStdout();
+    print_return_codes("");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), wanted.str() + "\n");
 }
 
 TEST(Shell, GetsEveryCharacterAsItIs) {
