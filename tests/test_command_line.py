@@ -47,7 +47,10 @@ def missing_conditions(directory):
 def test_help_has_the_name_that_was_typed(blade, word):
     (blade.directory / "bin").mkdir()
     shutil.copy(CNATOOL, blade.directory / "bin/name")
-    expect(blade.run("./bin/name", word), 0, HELP)
+    result = blade.run("./bin/name", word)
+    expect(result, 0, HELP)
+    # The tabs, lines and words of all of it.
+    assert (result.output.count("\t"), result.output.count("\n"), len(result.output.split())) == (13, 70, 251)
 
 
 @pytest.mark.parametrize("words, text", [
