@@ -87,6 +87,7 @@ CAUSES = [
     ("no attributes of two adapters", ("VM*_3_hba_attributes.out", "(?s).+", "ERROR"),
      "*02, function 3: its attributes report has no *\n  *17, function 3: its attributes report has no *"),
     ("a bad id", ("VM10250117_3_hba_attributes.out", "0714", "071G"), "*17, function 3: *one that is not hexadecimal"),
+    ("a subvendor id of 0", ("VM10250117_1_hba*", "1C3E", "0"), "*17, function 1: subvendor id 0: *"),
     ("no serial number", (LIST, "^(Serial.*)VM1.*", r"\1n/a"), "n/a, functions 2 and 3: no serial number, *"),
     ("no report", (removed("VM10250117_0_hba*"),), "the inventory ended at blade//VM10250117_0_hba_attributes.out, *"),
     ("vendor and device id exchanged", (CONDITIONS, IDS, "0714 | 19A2 | 1C3E | 11C1"),
