@@ -136,3 +136,4 @@ def test_play(fleet, tmp_path):
         "storage": "VM10250117, function 2 sees NRB Marlovan_SX1",
     }.items():
         assert re.search(reason, table[host][-1])
+    assert not (fleet["late"].directory / "flashed").exists()
