@@ -155,6 +155,7 @@ Total Result after PCI function sort.
 
 @pytest.mark.parametrize("kind, told", [
     pytest.param("iSCSI", "\nOnly iSCSI ports detected.\n", id="iSCSI"),
+    pytest.param("FCoE", "\nOnly FC ports detected.\n", id="FCoE"),
     pytest.param("NIC", "", id="neither"),
 ])
 def test_kind_of_the_ports(blade, kind, told):
