@@ -89,6 +89,8 @@ class Blade:
 
         It leads a process group, so its process id names the group, too."""
         words = shlex.split(words) if isinstance(words, str) else words
+        # pytest shows this where the test fails.
+        print(Path(program).name, shlex.join(words))
         self.processes.append(subprocess.Popen(
             ["env", "--default-signal", program, *words], cwd=self.directory, env=ENVIRONMENT | env, umask=0o022,
             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, start_new_session=True))

@@ -38,6 +38,11 @@ def change(blade, *what):
         blade.write(*what) if len(what) < 3 else blade.edit(what[0], what[1:])
 
 
+def name(text):
+    """What a row is called by: one word, for -k."""
+    return re.sub(r"\W+", "-", text)
+
+
 def removed(name):
     return lambda blade: blade.remove(name)
 
@@ -66,7 +71,7 @@ WELL = [
 ]
 
 
-@pytest.mark.parametrize("what", [row[1] for row in WELL], ids=[row[0] for row in WELL])
+@pytest.mark.parametrize("what", [row[1] for row in WELL], ids=[name(row[0]) for row in WELL])
 def test_nothing_is_to_be_looked_at(good, what):
     change(good, *what)
     expect(simulated(good), 0, "ADAPTER *\n...\n  VM30550041, function 0, record 5: is10102-4.6.142.10.ufi")
@@ -126,7 +131,7 @@ CAUSES = [
 ]
 
 
-@pytest.mark.parametrize("what, note", [row[1:] for row in CAUSES], ids=[row[0] for row in CAUSES])
+@pytest.mark.parametrize("what, note", [row[1:] for row in CAUSES], ids=[name(row[0]) for row in CAUSES])
 def test_a_cause_is_one_line(good, what, note):
     change(good, *what)
     expect(simulated(good), 1, f"{NOTES}  {note}")
@@ -164,7 +169,7 @@ MISTAKES = [
 ]
 
 
-@pytest.mark.parametrize("content, notes", MISTAKES, ids=[row[1][-1].replace("*", "") for row in MISTAKES])
+@pytest.mark.parametrize("content, notes", MISTAKES, ids=[name(row[1][-1]) for row in MISTAKES])
 def test_a_mistake_in_the_conditions_file_is_noted_with_its_line(blade, content, notes):
     blade.path(CONDITIONS).write_bytes(content.encode("latin-1"))
     expect(simulated(blade), 1, NOTES + "".join(f"  blade/{CONDITIONS}:{note}\n" for note in notes) + "...")
@@ -285,7 +290,7 @@ def test_the_command_line(blade, words, status, text):
     ((removed(LIST),), 2, "the list of ports, blade//local_hba_list.out, can't be read"),
     ((LIST, "none"), 3, "the list of ports, blade//local_hba_list.out, names no port"),
     (("VM10250117_0_hba_attributes.out", "0700", "1" * 17), 2, "a report holds a number of more than 64 bits"),
-])
+], ids=["no-list", "empty-list", "long-number"])
 def test_json_is_one_object_where_nothing_is_listed(blade, what, status, error):
     change(blade, *what)
     assert found(blade) == {"format": 1, "version": VERSION, "status": status, "error": error, "ports": [],
