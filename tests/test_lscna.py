@@ -61,7 +61,7 @@ def test_the_examples_screen_is_the_one_that_is_shown(blade, shown_in):
 
 
 WELL = [
-    ("storage that is allowed", (MAPPING, TITLE + STORAGE)),
+    ("storage that is allowed behind a LUN without any", (MAPPING, f"{TITLE}FCP LUN: 0\nFCP LUN: 1\n{STORAGE}")),
     ("no storage", (MAPPING, TITLE + "no target\n")),
     ("an allowed LUN before the judged one", (MAPPING, TITLE + "Vendor ID: DGC\nProduct ID: CX4-9\n" + STORAGE)),
     ("blank lines, which are no records with the same ids", (CONDITIONS, r"\Z", "\n\n \n---+--+---\nx # a | b\n")),
@@ -81,8 +81,8 @@ CAUSES = [
     ("storage that is not allowed", (MAPPING, TITLE + WRONG),
      "*17, function 2: record 1 (line 21) allows DGC Marlovan_CX,CX4- and NRB Marlovan_SX1"),
     ("any model", (CONDITIONS, r"DGC \| Marlovan_CX,.*", "HP | | x"), "*17, functions 2 and 3: * allows any HP"),
-    ("a LUN before the judged one", (MAPPING, TITLE + WRONG + STORAGE),
-     "*17, function 2: its report also names NRB X, which record 1 (line 21) does not allow; *"),
+    ("a LUN before the judged one", (MAPPING, f"{TITLE}Vendor ID: NRB\nFCP LUN: 0\nFCP LUN: 1\n{STORAGE}"),
+     "*17, function 2: its report also names NRB , which record 1 (line 21) does not allow; *"),
     ("another product before it", (MAPPING, TITLE + "Vendor ID: DGC\nProduct ID: X\n" + STORAGE), "*names DGC X, *"),
     ("neither storage nor record", (lambda blade: (
         blade.edit("VM10250117_?_target_mapping.out", (r"(?s)^(Target.*?\n).*", r"\1")),
@@ -140,6 +140,11 @@ def test_a_cause_is_one_line(good, what, note):
 def test_an_adapter_without_a_flash_port_is_noted_whatever_is_selected(good):
     good.edit(LIST, ("^(Serial.*VM1.*\nPort Number.*) .$", r"\1 3"))
     expect(simulated(good, "-p 19A2:0714:1C3E:11C2"), 1, f"{NOTES}  *17, functions 0, 1, 2 and 3: *no flash port*")
+
+
+def test_no_fibre_channel_port_is_no_line(good):
+    good.edit(LIST, ("^(Port Type.*: )FC$", r"\1NIC"))
+    assert "left alone" not in simulated(good).output
 
 
 def test_a_flash_that_lacks_an_image_is_not_listed(good):
@@ -251,6 +256,7 @@ def test_a_selection_is_read_as_cnatool_reads_it(good, words, status, notes):
 
 
 def test_a_selection_lists_ports_without_ids_too_and_wants_a_record_for_each_flash_port(good):
+    good.write("VM10250117_1_hba_attributes.out")
     good.write("VM10250117_3_hba_attributes.out")
     good.edit(CONDITIONS, (".*0700.*11C1.*\n", ""))
     answer = found(good, "-p 19A2:0700")
