@@ -81,8 +81,9 @@ CAUSES = [
     ("storage that is not allowed", (MAPPING, TITLE + WRONG),
      "*17, function 2: record 1 (line 21) allows DGC Marlovan_CX,CX4- and NRB Marlovan_SX1"),
     ("any model", (CONDITIONS, r"DGC \| Marlovan_CX,.*", "HP | | x"), "*17, functions 2 and 3: * allows any HP"),
-    ("a LUN before the judged one", (MAPPING, f"{TITLE}Vendor ID: NRB\nFCP LUN: 0\nFCP LUN: 1\n{STORAGE}"),
-     "*17, function 2: its report also names NRB , which record 1 (line 21) does not allow; *"),
+    # With a byte that would change a terminal.
+    ("a LUN before the judged one", (MAPPING, f"{TITLE}Vendor ID: N\x1bB\nFCP LUN: 0\nFCP LUN: 1\n{STORAGE}"),
+     "*17, function 2: its report also names N?B , which record 1 (line 21) does not allow; *"),
     ("another product before it", (MAPPING, TITLE + "Vendor ID: DGC\nProduct ID: X\n" + STORAGE), "*names DGC X, *"),
     ("neither storage nor record", (lambda blade: (
         blade.edit("VM10250117_?_target_mapping.out", (r"(?s)^(Target.*?\n).*", r"\1")),
