@@ -4,10 +4,12 @@ import difflib
 import itertools
 import os
 import re
+import select
 import shlex
 import shutil
 import signal
 import subprocess
+import time
 from collections import namedtuple
 from pathlib import Path
 
@@ -23,6 +25,10 @@ for program in CNATOOL, CNATOOL_STANDIN, LSCNA, LSCNA_STANDIN:
     if not program.exists():
         pytest.exit(f"There is no {program}: build the project with its tests first.", returncode=4)
 
+# cnatool on "blade", as words of a shell.
+REAL = f"{shlex.quote(str(CNATOOL_STANDIN))} --conpath blade"
+SIMULATED = f"{shlex.quote(str(CNATOOL))} --simulate --conpath blade"
+
 # The example's adapters: FM (VM10250117) sees DGC storage, which its record allows, FX (VM20713302) NRB, which its
 # record does not allow. A check selects their FCoE ports (functions 2 and 3), a flash their flash ports (function 0).
 # Two ids select both adapters; the device's first record is FM's.
@@ -30,6 +36,9 @@ FM, FX, BOTH = "-pci-id 19A2:0714:1C3E:11C1", "-pci-id 19A2:0714:1C3E:11C2", "-p
 FLASH_FM, FLASH_FX = "--flash -pci-id 19A2:0700:1C3E:11C1", "--flash -pci-id 19A2:0700:1C3E:11C2"
 FLASH_BOTH = "--flash -pci-id 19A2:0700"
 CONDITIONS, LIST = "FC_HBA_Conditions.txt", "local_hba_list.out"
+MAPPING = "VM10250117_2_target_mapping.out"  # of FM's first FCoE port
+# Changes of target mappings: the ports see storage of the other vendor.
+DGC_FOR_NRB, NRB_FOR_DGC = [(": NRB", ": DGC"), ("_SX1", "_CX1")], [(": DGC", ": NRB"), ("_CX1", "_SX1")]
 # What gives the records of the FCoE ports images as well, so that a selection of these ports flashes.
 FCOE_IMAGES = [(r"(11C1 \| FCoE.*PCIe \|) +", r"\1 fm10102- "),
                (r"(11C2 \| FCoE.*PCIe \|) +\| +", r"\1 *.ufi | *.grp ")]
@@ -101,6 +110,9 @@ class Blade:
         output, _ = process.communicate(timeout=60)
         return Result(process.returncode, os.fsdecode(output))
 
+    def shell(self, command):
+        return self.run("sh", ["-c", command])
+
     def simulated(self, words, env={}):
         """Runs cnatool on the reports in "blade"."""
         return self.run(CNATOOL, f"--simulate --conpath blade {words}", env)
@@ -146,6 +158,30 @@ def blade(tmp_path):
 def cli(tmp_path):
     yield (cli := Standin(tmp_path))
     cli.kill_what_hangs()
+
+
+def wait_until(happened, process):
+    deadline = time.monotonic() + 30
+    while not happened():
+        assert process.poll() is None, f"The program has ended with {process.returncode} before."
+        assert time.monotonic() < deadline, "What this test waits for has not happened."
+        time.sleep(0.01)
+
+
+class Terminal:
+    """The standard error of a shell that it controls, which runs a command and then shows its status there."""
+
+    def __init__(self, cli, command):
+        self.screen, terminal = os.openpty()
+        self.shell = cli.start("sh", ["-c", f"exec 2<>{os.ttyname(terminal)}; {command}; echo =$? >&2; read -r _ <&2"])
+
+    def read_until(self, end):
+        text = b""
+        while end not in text:
+            ended = re.search(rb"=\d+\r\n", text)
+            assert not ended and select.select([self.screen], [], [], 30)[0], f"{end!r} does not come, but {text!r}."
+            text += os.read(self.screen, 4096)
+        return text
 
 
 def expect(result, status, text=""):

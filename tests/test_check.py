@@ -4,7 +4,7 @@ import re
 
 import pytest
 
-from conftest import BOTH, CONDITIONS, FCOE_IMAGES, FM, FX, LIST, Result, expect
+from conftest import BOTH, CONDITIONS, DGC_FOR_NRB, FCOE_IMAGES, FM, FX, LIST, MAPPING, NRB_FOR_DGC, Result, expect
 
 BOTH_CHECKS = "--ctrl-wide-identical --ctrl-vendor-wide-identical"
 ALL_CHECKS = ["--check-for-valid-subsystem", "--ctrl-wide-identical", "--ctrl-vendor-wide-identical"]
@@ -12,11 +12,11 @@ ALL_CHECKS = ["--check-for-valid-subsystem", "--ctrl-wide-identical", "--ctrl-ve
 
 def fm_ports_differ(blade):
     """FM's second port sees what its record allows, but of another vendor than the first port's."""
-    blade.edit("VM10250117_3_target_mapping.out", (": DGC", ": NRB"), ("_CX1", "_SX1"))
+    blade.edit("VM10250117_3_target_mapping.out", *NRB_FOR_DGC)
 
 
 def fm_sees(blade, storage):
-    blade.write("VM10250117_2_target_mapping.out", "Target Mapping\n\n\n\n" + storage)
+    blade.write(MAPPING, "Target Mapping\n\n\n\n" + storage)
 
 
 def only(expression, result):
@@ -82,7 +82,7 @@ CtrlSpecificSubsystemEquality: 1 """)
 
 
 def test_adapters_are_compared_with_the_first_one(blade):
-    blade.edit("VM20713302_*_target_mapping.out", (": NRB", ": DGC"), ("_SX1", "_CX1"))
+    blade.edit("VM20713302_*_target_mapping.out", *DGC_FOR_NRB)
     consistent = "\t\tAll sub-systems are consistent * 10:00:00:00:c9:b2:00:11."
     expect(only("vendor specific", blade.simulated(f"-v 2 {BOTH}")), 0, "\n".join([consistent] * 3))
 
@@ -178,7 +178,7 @@ def test_storage_that_is_not_allowed_is_not_compared(blade):
 
 
 @pytest.mark.parametrize("file, change, told", [
-    pytest.param("VM10250117_2_target_mapping.out", ("(?s).+", ""), f"{FUNCTION_2}\n{FUNCTION_3}",
+    pytest.param(MAPPING, ("(?s).+", ""), f"{FUNCTION_2}\n{FUNCTION_3}",
                  id="without-storage"),
     pytest.param(LIST, ("(?s)(a1:00:11.*?Mfg *: )E", r"\1e"), FUNCTION_3, id="of-another-maker"),
     pytest.param(LIST, ("(?s)(a1:00:11.*?Model *: )C", r"\1c"), FUNCTION_3, id="of-another-model"),
@@ -191,7 +191,7 @@ def test_first_port_does_not_end_the_walk(blade, file, change, told):
 
 
 def test_port_without_storage_is_told(blade):
-    blade.write("VM10250117_2_target_mapping.out")
+    blade.write(MAPPING)
     expect(blade.simulated(f"-v 4 {FM}"), 0, f"...\n{FUNCTION_2}\n\n\n\t\t---------+*\n...\n"
            f"{FUNCTION_2}\n\t\tSubsystem check already done => continue.\n...")
 

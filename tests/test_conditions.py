@@ -101,10 +101,3 @@ def test_no_file_in_its_place(blade, lay):
     lay(blade.path(CONDITIONS))
     expect(blade.simulated(""), 15, "Error: Could not open file blade/FC_HBA_Conditions.txt\n\n"
            "Cann't access file blade/FC_HBA_Conditions.txt.\n")
-
-
-def test_read_error(blade):
-    """A process's memory can be opened, but its beginning can't be read."""
-    blade.remove(CONDITIONS)
-    blade.path(CONDITIONS).symlink_to("/proc/self/mem")
-    expect(blade.simulated(""), 55, "Error: Fatal error!")

@@ -4,7 +4,7 @@ import signal
 
 import pytest
 
-from conftest import CNATOOL_STANDIN, CONDITIONS, FCOE_IMAGES, FLASH_BOTH, FLASH_FM, FLASH_FX, FX, LIST, expect
+from conftest import CNATOOL_STANDIN, CONDITIONS, FCOE_IMAGES, FLASH_BOTH, FLASH_FM, FLASH_FX, FX, LIST, REAL, expect
 
 FM_FIRMWARE = "download [00:00:c9:a1:00:01] [blade/fm10102-4.6.142.10.ufi]"
 FX_FIRMWARE = "download [00:00:c9:b2:00:01] [blade/CNA-10102-FX/fx-4.6.142.10.ufi]"
@@ -185,7 +185,7 @@ def test_image_search(blade, pattern, files, found):
 
 
 def flash_with_its_pid_in_tool(cli):
-    return cli.run("sh", f"-c 'export tool=$$; exec {CNATOOL_STANDIN} --conpath blade {FLASH_FX}'")
+    return cli.shell(f"export tool=$$; exec {REAL} {FLASH_FX}")
 
 
 @pytest.mark.parametrize("action", [

@@ -2,14 +2,14 @@
 
 import pytest
 
-from conftest import BOTH, FM, LIST, expect
+from conftest import BOTH, FM, LIST, MAPPING, expect
 
 PORTS = ["10:00:00:00:c9:b2:00:11", "10:00:00:00:c9:b2:00:12", "10:00:00:00:c9:a1:00:11", "10:00:00:00:c9:a1:00:12",
          "10:00:00:00:c9:d4:00:01", "00:00:c9:c3:00:02", "00:00:c9:c3:00:01", "00:00:c9:a1:00:01", "00:00:c9:a1:00:02",
          "00:00:c9:b2:00:01", "00:00:c9:b2:00:02"]
 # Only Fibre Channel and FCoE ports see storage.
 CALLS = ["listhbas", *(f"hbaattributes [{port}]" for port in PORTS), *(f"targetmapping [{port}]" for port in PORTS[:5])]
-ATTRIBUTES, MAPPING = "VM10250117_2_hba_attributes.out", "VM10250117_2_target_mapping.out"  # of FM's first port
+ATTRIBUTES = "VM10250117_2_hba_attributes.out"  # of FM's first FCoE port
 NO_BLADE = "\nNo Blade Engine was found in this system.\n"
 
 
@@ -65,13 +65,6 @@ def test_report_that_cannot_be_opened_ends_the_inventory(cli, call, file, calls,
     cli.on(call, f"rm blade/{file}")
     expect(cli.real(FM), status, f"Error: Could not open file blade//{file}\n...")
     assert cli.calls == CALLS[:calls]
-
-
-def test_report_that_cannot_be_read_to_its_end(blade):
-    """A process's memory can be opened, but its beginning can't be read."""
-    blade.remove(MAPPING)
-    blade.path(MAPPING).symlink_to("/proc/self/mem")
-    expect(blade.simulated(FM), 0, f"Error: Could not open file blade//{MAPPING}\n...")
 
 
 # The lines of the reports. A value begins two characters after the colon, without the blanks and quotes around it.

@@ -7,7 +7,7 @@ import subprocess
 
 import pytest
 
-from conftest import CNATOOL_STANDIN, CONDITIONS, LSCNA_STANDIN, PROJECT, Standin
+from conftest import CNATOOL_STANDIN, CONDITIONS, DGC_FOR_NRB, LSCNA_STANDIN, NRB_FOR_DGC, PROJECT, Standin
 
 pytestmark = pytest.mark.slow
 
@@ -23,7 +23,7 @@ def fleet(tmp_path):
     for host in HOSTS:
         (tmp_path / host).mkdir()
         blades[host] = blade = Standin(tmp_path / host)
-        blade.edit("*_target_mapping.out", (": NRB", ": DGC"), ("_SX1", "_CX1"))
+        blade.edit("*_target_mapping.out", *DGC_FOR_NRB)
         blade.edit("VM*_attributes.out", (NEW, OLD))
         blade.on("download1", f"sed -i s/{OLD}/{NEW}/ cli/reports/VM10250117*")
         blade.on("download2", f"sed -i s/{OLD}/{NEW}/ cli/reports/VM20713302*")
@@ -120,7 +120,7 @@ def test_play(fleet, tmp_path):
     (fleet["typo"].directory / "first/fm10102-4.6.142.10.ufi").write_text("other")
     (fleet["typo"].directory / "first/old.ufi").write_text("old")
     for host, ports in ("bare", "3"), ("storage", "?"):
-        fleet[host].edit(f"VM10250117_{ports}_target_mapping.out", (": DGC", ": NRB"), ("_CX1", "_SX1"))
+        fleet[host].edit(f"VM10250117_{ports}_target_mapping.out", *NRB_FOR_DGC)
     exchange_adapter(fleet["late"])
     exchange_adapter(fleet["lost"])
     (fleet["late"].directory / "cli/calls.log").unlink()

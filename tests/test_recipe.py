@@ -3,11 +3,10 @@
 import os
 import re
 import signal
-import time
 
 import pytest
 
-from conftest import CNATOOL_STANDIN, CONDITIONS, LIST, LSCNA_STANDIN, PROJECT
+from conftest import CONDITIONS, DGC_FOR_NRB, LIST, LSCNA_STANDIN, PROJECT, REAL, wait_until
 
 RECIPE = re.search("^```sh\n(.*?)^```$", (PROJECT / "docs/automation.md").read_text(), re.M | re.S)[1]
 IMAGES = ["fm10102-4.6.142.10.ufi", "fx-4.6.142.10.ufi", "fx-bios-4.6.141.grp"]
@@ -17,12 +16,12 @@ REPORT = "blade/VM20713302_3_target_mapping.out"
 @pytest.fixture
 def blade(cli):
     """The blade with the stand-in, storage that is allowed and the same in the reports of an earlier run."""
-    cli.edit("*_target_mapping.out", (": NRB", ": DGC"), ("_SX1", "_CX1"))
+    cli.edit("*_target_mapping.out", *DGC_FOR_NRB)
     for report in cli.reports.iterdir():
         (cli.files / report.name).write_bytes(report.read_bytes())
     (cli.directory / "recipe").write_text(RECIPE)
     (cli.directory / "tmp").mkdir()
-    program(cli, "real", f'exec {CNATOOL_STANDIN} --conpath blade "$@"')
+    program(cli, "real", f'exec {REAL} "$@"')
     program(cli, "tool", 'exec ./real "$@"')
     program(cli, "list", f'exec {LSCNA_STANDIN} --conpath blade "$@"')
     return cli
@@ -130,8 +129,7 @@ def test_signal(blade, call, send, ends):
     os.mkfifo(blade.directory / "go-on")
     blade.on(call, "touch reached; read -r _ <go-on")
     process = start(blade)
-    while not (blade.directory / "reached").exists() and process.poll() is None:
-        time.sleep(0.01)
+    wait_until((blade.directory / "reached").exists, process)
     send(process.pid, signal.SIGTERM)
     with open(blade.directory / "go-on", "r+b", buffering=0) as go_on:
         go_on.write(b"\n")

@@ -3,37 +3,24 @@
 import fcntl
 import os
 import re
-import select
-import shlex
 import signal
 import subprocess
-import time
 from pathlib import Path
 
 import pytest
 
-from conftest import BOTH, CNATOOL, CNATOOL_STANDIN, FLASH_FM, FLASH_FX, FM, FX, LIST, expect
+from conftest import (BOTH, CNATOOL, CNATOOL_STANDIN, CONDITIONS, FLASH_FM, FLASH_FX, FM, FX, LIST, MAPPING, REAL,
+                      SIMULATED, Terminal, expect, wait_until)
 
-REAL = f"{shlex.quote(str(CNATOOL_STANDIN))} --conpath blade"
-SIMULATED = f"{shlex.quote(str(CNATOOL))} --simulate --conpath blade"
 REPORT = "VM10250117_0_hba_attributes.out"  # of FM's flash port
 TRACE = "FWtrace.out"
 LOG = "Merlie_DLL.log"
 
 
-def shell(blade, command):
-    return blade.run("sh", ["-c", command])
-
-
-def wait_until(happened, process):
-    deadline = time.monotonic() + 30
-    while not happened():
-        assert process.poll() is None, f"The program has ended with {process.returncode} before."
-        assert time.monotonic() < deadline, "What this test waits for has not happened."
-        time.sleep(0.01)
-
-
 # Runs that start the CLI take turns; the CLI's file is the lock.
+
+# What has the stand-in tell of a call in which another run could take the turn.
+TELL_FREE_TURN = "! flock -n hbacmd true || echo $hook >&2"
 
 
 @pytest.fixture
@@ -46,7 +33,7 @@ def turn(cli):
 
 def test_run_keeps_its_turn_from_its_first_command_to_its_last(cli):
     for call in "listhbas1", "hbaattributes1", "download1":
-        cli.on(call, f"! flock -n hbacmd true || echo {call} >&2")
+        cli.on(call, TELL_FREE_TURN)
     expect(cli.real(f"--silent {FLASH_FM}"), 0)
 
 
@@ -84,7 +71,7 @@ def signals(line):
 
 def test_every_signal_waits_for_the_download(cli):
     cli.on("download1", "grep SigBlk /proc/$tool/status >signals")
-    expect(shell(cli, f"export tool=$$; exec {REAL} --silent {FLASH_FM}"), 0)
+    expect(cli.shell(f"export tool=$$; exec {REAL} --silent {FLASH_FM}"), 0)
     never = {signal.SIGKILL, signal.SIGSTOP, signal.SIGCHLD}
     assert signals((cli.directory / "signals").read_text()) == set(range(1, 32)) - never
 
@@ -128,18 +115,18 @@ def test_ctrl_c_ends_a_run_whose_reader_has_stopped_reading(cli, call):
     pytest.param(f"exec {SIMULATED} -v 6 {FX} <&- >&- 2>&-", id="closed"),
 ])
 def test_output_that_is_lost_does_not_change_the_status(blade, command):
-    expect(shell(blade, command), 4)
+    expect(blade.shell(command), 4)
 
 
 def test_closed_streams_are_open_for_the_cli(cli):
     cli.on("listhbas1", "readlink /proc/$$/fd/0 /proc/$$/fd/2 >streams")
-    expect(shell(cli, f"exec {REAL} {FLASH_FM} <&- >&- 2>&-"), 0)
+    expect(cli.shell(f"exec {REAL} {FLASH_FM} <&- >&- 2>&-"), 0)
     assert (cli.directory / "streams").read_text() == "/dev/null\n" * 2
 
 
 @pytest.mark.parametrize("umask, mode", [("0", 0o644), ("077", 0o600)])
 def test_reports_and_trace_are_not_writable_by_others(cli, umask, mode):
-    expect(shell(cli, f"umask {umask}; exec {REAL} --silent {FLASH_FM}"), 0)
+    expect(cli.shell(f"umask {umask}; exec {REAL} --silent {FLASH_FM}"), 0)
     for name in LIST, REPORT, TRACE:
         assert (cli.files / name).stat().st_mode & 0o777 == mode, name
 
@@ -152,7 +139,7 @@ def test_no_variable_changes_what_the_shell_does(cli):
 
 
 def test_caller_who_ignores_ended_children(cli):
-    expect(shell(cli, f"exec env --ignore-signal=CHLD {REAL} --silent {FLASH_FX}"), 0)
+    expect(cli.shell(f"exec env --ignore-signal=CHLD {REAL} --silent {FLASH_FX}"), 0)
     assert cli.calls[-1].startswith("download")
 
 
@@ -226,6 +213,17 @@ def test_image_whose_path_is_too_long_is_passed_over(blade, length, status, text
     expect(blade.run(CNATOOL, ["--simulate", "--conpath", directory, *FLASH_FM.split()]), status, text)
 
 
+@pytest.mark.parametrize("name, status, text", [
+    pytest.param(CONDITIONS, 55, "Error: Fatal error!", id="conditions"),
+    pytest.param(MAPPING, 0, f"Error: Could not open file blade//{MAPPING}\n...", id="report"),
+])
+def test_file_that_cannot_be_read_to_its_end(blade, name, status, text):
+    """A process's memory can be opened, but its beginning can't be read."""
+    blade.remove(name)
+    blade.path(name).symlink_to("/proc/self/mem")
+    expect(blade.simulated(FM), status, text)
+
+
 # The log of a debug run.
 
 
@@ -256,24 +254,8 @@ def test_log_of_another_user_is_left_alone(blade):
 # The line at a terminal, which tells what the tool waits for.
 
 
-class Terminal:
-    """The standard error of a shell that it controls, which runs a command and then shows its status there."""
-
-    def __init__(self, cli, command):
-        self.screen, terminal = os.openpty()
-        self.shell = cli.start("sh", ["-c", f"exec 2<>{os.ttyname(terminal)}; {command}; echo =$? >&2; read -r _ <&2"])
-
-    def read_until(self, end):
-        text = b""
-        while end not in text:
-            ended = re.search(rb"=\d+\r\n", text)
-            assert not ended and select.select([self.screen], [], [], 30)[0], f"{end!r} does not come, but {text!r}."
-            text += os.read(self.screen, 4096)
-        return text
-
-
 def test_line_at_the_terminal_and_the_turn_after_the_wait(cli, turn):
-    cli.on("listhbas1", "flock -n hbacmd true && exit 9 || :")
+    cli.on("listhbas1", TELL_FREE_TURN)
     terminal = Terminal(cli, f"{REAL} {FLASH_FX}")
     text = terminal.read_until(b"waiting for another run\r")
     assert not (cli.directory / "cli/calls.log").exists()
